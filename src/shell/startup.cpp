@@ -1,0 +1,6 @@
+#include "startup.h"
+
+void StartConsole(const QString& commandLine)
+{
+    Q_UNUSED(commandLine);
+}
