@@ -38,6 +38,8 @@ QString RuntimeError::describe(int number)
         return QStringLiteral("Path/File access error");
     case PathNotFound:
         return QStringLiteral("Path not found");
+    case InvalidPropertyValue:
+        return QStringLiteral("Invalid property value");
     default:
         return QStringLiteral("Application-defined or object-defined error");
     }

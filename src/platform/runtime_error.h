@@ -21,6 +21,7 @@ public:
         PermissionDenied = 70,
         PathFileAccessError = 75,
         PathNotFound = 76,
+        InvalidPropertyValue = 380,
     };
 
     // The classic description of the number; Context says what was being done, for the last box.

@@ -1,0 +1,67 @@
+#pragma once
+
+#include "control.h"
+
+#include <QComboBox>
+#include <QListWidget>
+#include <QTreeWidget>
+
+// The drive, folder and file pickers. Linux has no drive letters: the drive list holds the
+// mounted file systems' roots, and paths join with "/".
+
+class DriveListBox : public QComboBox, public Control
+{
+    Q_OBJECT
+
+public:
+    DriveListBox(QWidget* parent, const QString& name);
+
+    QString Drive() const { return currentText(); }
+    void SetDrive(const QString& drive);
+
+    Event<> Change;
+};
+
+// The folders from the root down to Path, and Path's subfolders.
+class DirListBox : public QTreeWidget, public Control
+{
+    Q_OBJECT
+
+public:
+    DirListBox(QWidget* parent, const QString& name);
+
+    QString Path() const { return m_path; }
+    void SetPath(const QString& path);
+
+    Event<> Change;
+
+private:
+    void rebuild();
+
+    QString m_path;
+};
+
+// The files of Path whose names match Pattern ("*.dat", or a full name), sorted.
+class FileListBox : public QListWidget, public Control
+{
+    Q_OBJECT
+
+public:
+    FileListBox(QWidget* parent, const QString& name);
+
+    QString Path() const { return m_path; }
+    void SetPath(const QString& path);
+    QString Pattern() const { return m_pattern; }
+    void SetPattern(const QString& pattern);
+    QString FileName() const;
+    int ListIndex() const;
+    int ListCount() const { return count(); }
+    void Refresh();
+
+    Event<> Click;
+    Event<> DblClick;
+
+private:
+    QString m_path;
+    QString m_pattern = QStringLiteral("*");
+};
