@@ -1,11 +1,119 @@
-#include <QTest>
+#include "platform/event_guard.h"
+#include "platform/forms/do_events.h"
+#include "platform/runtime_error.h"
+#include "support/msg_box_recorder.h"
 
-class Placeholder : public QObject
+#include <QTest>
+#include <QTimer>
+
+class TestEventGuard : public QObject
 {
     Q_OBJECT
+
 private slots:
-    void nothingYet() { }
+    void init()
+    {
+        m_exitStatuses.clear();
+        EventGuard::setTerminateHandler([this](int status) { m_exitStatuses << status; });
+        EventGuard::setProductTitleSource([] { return QStringLiteral("Product title"); });
+    }
+
+    void cleanup() { EventGuard::setTerminateHandler({}); }
+
+    void unhandledFailureShowsTheBoxAndEnds()
+    {
+        MsgBoxRecorder boxes;
+        bool after = false;
+        EventGuard::raise([&] {
+            throw RuntimeError(RuntimeError::Overflow);
+            after = true;
+        });
+        QVERIFY(!after);
+        QCOMPARE(boxes.texts(), QStringList { QStringLiteral("Run-time error '6': Overflow") });
+        QCOMPARE(boxes.calls.first().title, QStringLiteral("Product title"));
+        QCOMPARE(m_exitStatuses, QList<int> { 1 });
+        QVERIFY(!EventGuard::inHandler());
+    }
+
+    void contextFollowsTheClassicText()
+    {
+        MsgBoxRecorder boxes;
+        EventGuard::raise([] { throw RuntimeError(RuntimeError::PermissionDenied, QStringLiteral("Deleting /x/a.dat")); });
+        QCOMPARE(boxes.texts(),
+            QStringList { QStringLiteral("Run-time error '70': Permission denied\n\nDeleting /x/a.dat") });
+    }
+
+    void nestedEventFailsIntoTheOuterHandler()
+    {
+        MsgBoxRecorder boxes;
+        int caught = 0;
+        EventGuard::raise([&] {
+            try {
+                EventGuard::raise([] { throw RuntimeError(RuntimeError::TypeMismatch); });
+            } catch (const RuntimeError& error) {
+                caught = error.Number;
+            }
+        });
+        QCOMPARE(caught, 13);
+        QVERIFY(boxes.calls.isEmpty());
+        QVERIFY(m_exitStatuses.isEmpty());
+    }
+
+    // A failure delivered from inside Qt's frames must not unwind through them: it waits until the
+    // outer handler's own code is back in charge.
+    void failureFromQtIsParkedForTheOuterHandler()
+    {
+        MsgBoxRecorder boxes;
+        int caught = 0;
+        bool qtCallReturned = false;
+        EventGuard::raise([&] {
+            try {
+                EventGuard::raiseFromQt([] { throw RuntimeError(RuntimeError::Overflow); });
+                qtCallReturned = true;
+                EventGuard::rethrowParked();
+            } catch (const RuntimeError& error) {
+                caught = error.Number;
+            }
+        });
+        QVERIFY(qtCallReturned);
+        QCOMPARE(caught, 6);
+        QVERIFY(boxes.calls.isEmpty());
+    }
+
+    void parkedFailureNobodyHandlesEndsTheConsole()
+    {
+        MsgBoxRecorder boxes;
+        EventGuard::raise([] { EventGuard::raiseFromQt([] { throw RuntimeError(RuntimeError::FileNotFound); }); });
+        QCOMPARE(boxes.texts(), QStringList { QStringLiteral("Run-time error '53': File not found") });
+        QCOMPARE(m_exitStatuses, QList<int> { 1 });
+    }
+
+    // Events that a yield delivers are outermost events of their own.
+    void yieldStartsAFreshOutermostLevel()
+    {
+        MsgBoxRecorder boxes;
+        bool outerCarriedOn = false;
+        QTimer::singleShot(0, [] { EventGuard::raiseFromQt([] { throw RuntimeError(RuntimeError::Overflow); }); });
+        EventGuard::raise([&] {
+            DoEvents();
+            QVERIFY(EventGuard::inHandler());
+            outerCarriedOn = true;
+        });
+        QVERIFY(outerCarriedOn);
+        QCOMPARE(boxes.calls.size(), 1);
+        QCOMPARE(m_exitStatuses, QList<int> { 1 });
+    }
+
+    void foreignExceptionsStillGetABox()
+    {
+        MsgBoxRecorder boxes;
+        EventGuard::raise([] { throw std::bad_alloc(); });
+        QCOMPARE(boxes.texts(), QStringList { QStringLiteral("Run-time error '7': Out of memory") });
+    }
+
+private:
+    QList<int> m_exitStatuses;
 };
 
-QTEST_GUILESS_MAIN(Placeholder)
+QTEST_MAIN(TestEventGuard)
 #include "tst_event_guard.moc"

@@ -7,10 +7,11 @@
 
 namespace {
 
-Form* enclosingForm(QObject* object)
+// The form a widget is on; a box or dialog of the form's own is a window apart and doesn't count.
+Form* enclosingForm(QWidget* widget)
 {
-    for (QObject* o = object; o; o = o->parent()) {
-        if (auto* form = qobject_cast<Form*>(o))
+    for (QWidget* w = widget; w; w = w->isWindow() ? nullptr : w->parentWidget()) {
+        if (auto* form = qobject_cast<Form*>(w))
             return form;
     }
     return nullptr;
@@ -34,7 +35,7 @@ public:
         m_pressed = key;
         m_pressedKey = key->key();
 
-        QPointer<Form> form = enclosingForm(watched);
+        QPointer<Form> form = enclosingForm(static_cast<QWidget*>(watched));
         if (!form || !form->KeyPreview() || form->isUnloaded())
             return false;
         const int code = KeyPreview::keyCode(key);
