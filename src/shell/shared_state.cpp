@@ -1,0 +1,5 @@
+#include "shared_state.h"
+
+QString MsgText;
+QString MsgTitle;
+qint32 LastStringLength = 0;
