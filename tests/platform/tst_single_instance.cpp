@@ -1,11 +1,81 @@
+#include "platform/single_instance.h"
+
+#include <QCoreApplication>
+#include <QFile>
+#include <QProcess>
+#include <QTemporaryDir>
 #include <QTest>
 
-class Placeholder : public QObject
+#include <cstring>
+#include <iostream>
+#include <string>
+
+// With this argument the test program plays another console: it asks once, prints "running" or
+// "alone", and keeps whatever it holds until its stdin closes.
+static const char* const InstanceArgument = "--be-an-instance";
+
+// Outlives the instance lock, which is let go at exit.
+static QTemporaryDir& runtimeDirectory()
+{
+    static QTemporaryDir directory;
+    return directory;
+}
+
+class TestSingleInstance : public QObject
 {
     Q_OBJECT
+
 private slots:
-    void nothingYet() { }
+    void initTestCase();
+    void onlyLiveInstancesCount();
 };
 
-QTEST_GUILESS_MAIN(Placeholder)
+void TestSingleInstance::initTestCase()
+{
+    QVERIFY(runtimeDirectory().isValid());
+    QVERIFY(QFile::setPermissions(
+        runtimeDirectory().path(), QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner));
+    qputenv("XDG_RUNTIME_DIR", QFile::encodeName(runtimeDirectory().path()));
+}
+
+void TestSingleInstance::onlyLiveInstancesCount()
+{
+    auto start = [](QProcess& instance) {
+        instance.start(QCoreApplication::applicationFilePath(), { QLatin1String(InstanceArgument) });
+        QByteArray answer;
+        while (!answer.contains('\n') && instance.waitForReadyRead(30000))
+            answer += instance.readAll();
+        return answer.trimmed();
+    };
+    const QString lockFile = runtimeDirectory().filePath(QStringLiteral("qd7console.lock"));
+
+    QProcess first;
+    QCOMPARE(start(first), QByteArray("alone"));
+    QVERIFY(earlierInstanceRunning());
+    QVERIFY(earlierInstanceRunning()); // asked again, still there
+
+    first.kill(); // dies without letting go of its lock file
+    QVERIFY(first.waitForFinished(30000));
+    QVERIFY(QFile::exists(lockFile));
+    QVERIFY(!earlierInstanceRunning());
+    QVERIFY(!earlierInstanceRunning()); // this process holds it now
+
+    QProcess later;
+    QCOMPARE(start(later), QByteArray("running"));
+    later.closeWriteChannel();
+    QVERIFY(later.waitForFinished(30000));
+}
+
+int main(int argc, char** argv)
+{
+    QCoreApplication app(argc, argv);
+    if (argc == 2 && std::strcmp(argv[1], InstanceArgument) == 0) {
+        std::cout << (earlierInstanceRunning() ? "running" : "alone") << std::endl;
+        for (std::string line; std::getline(std::cin, line);) { }
+        return 0;
+    }
+    TestSingleInstance test;
+    return QTest::qExec(&test, argc, argv);
+}
+
 #include "tst_single_instance.moc"
