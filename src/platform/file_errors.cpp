@@ -13,8 +13,6 @@
 
 namespace {
 
-constexpr int TooManyFiles = 67;
-
 bool directoryExists(const QString& path)
 {
     struct stat info = {};
@@ -148,7 +146,7 @@ int fileErrorNumber(int error, const QString& path)
         return RuntimeError::BadFileNameOrNumber;
     case EMFILE:
     case ENFILE:
-        return TooManyFiles;
+        return RuntimeError::TooManyFiles;
     default:
         return RuntimeError::PathFileAccessError;
     }
@@ -156,10 +154,7 @@ int fileErrorNumber(int error, const QString& path)
 
 void throwFileError(int error, const QString& path, const QString& context)
 {
-    const int number = fileErrorNumber(error, path);
-    if (number == TooManyFiles)
-        throw RuntimeError(number, QStringLiteral("Too many files"), context);
-    throw RuntimeError(number, context);
+    throw RuntimeError(fileErrorNumber(error, path), context);
 }
 
 bool takeSharedLock(int fd)

@@ -7,7 +7,6 @@
 namespace {
 
 constexpr qint64 ChunkSize = 4096;
-constexpr int BadFileMode = 54;
 
 DataFileMode dataFileMode(LineFile::Mode mode)
 {
@@ -42,7 +41,7 @@ QString LineFile::readLine()
 {
     device("Reading");
     if (m_mode != Mode::Input)
-        throw RuntimeError(BadFileMode, QStringLiteral("Bad file mode"), context("Reading from"));
+        throw RuntimeError(RuntimeError::BadFileMode, context("Reading from"));
     if (atEnd())
         throw RuntimeError(RuntimeError::InputPastEndOfFile, context("Reading"));
 
@@ -82,7 +81,7 @@ void LineFile::writeLine(const QString& text)
 {
     FileDevice& file = device("Writing");
     if (m_mode == Mode::Input)
-        throw RuntimeError(BadFileMode, QStringLiteral("Bad file mode"), context("Writing to"));
+        throw RuntimeError(RuntimeError::BadFileMode, context("Writing to"));
     const QByteArray bytes = text.toLatin1() + "\r\n";
     if (file.write(bytes) != bytes.size())
         throwFileError(file.lastError() != 0 ? file.lastError() : ENOSPC, m_name, context("Writing"));

@@ -8,7 +8,6 @@
 
 namespace {
 
-constexpr int BadRecordNumber = 63;
 constexpr int MaxRecordLength = 32767;
 
 void checkRecordLength(int recordLength, const QString& name)
@@ -97,7 +96,7 @@ void RecordFile::seekRecord(qint64 number, const char* what)
 {
     const qint64 maxNumber = std::numeric_limits<qint64>::max() / m_recordLength;
     if (number < 1 || number > maxNumber)
-        throw RuntimeError(BadRecordNumber, QStringLiteral("Bad record number"),
+        throw RuntimeError(RuntimeError::BadRecordNumber,
             QStringLiteral("%1 record %2 of %3").arg(QLatin1String(what)).arg(number).arg(m_name));
     FileDevice& file = *m_device;
     if (!file.seek((number - 1) * m_recordLength))

@@ -28,10 +28,16 @@ QString RuntimeError::describe(int number)
         return QStringLiteral("Bad file name or number");
     case FileNotFound:
         return QStringLiteral("File not found");
+    case BadFileMode:
+        return QStringLiteral("Bad file mode");
     case DiskFull:
         return QStringLiteral("Disk full");
     case InputPastEndOfFile:
         return QStringLiteral("Input past end of file");
+    case BadRecordNumber:
+        return QStringLiteral("Bad record number");
+    case TooManyFiles:
+        return QStringLiteral("Too many files");
     case PermissionDenied:
         return QStringLiteral("Permission denied");
     case PathFileAccessError:
