@@ -1,0 +1,18 @@
+# cmake -DNM=<nm> -DLIBRARY=<libqd7gd.so> -P check_exports.cmake: fails unless the library's
+# dynamic symbol table defines exactly the five functions of the C interface.
+execute_process(COMMAND ${NM} -D --defined-only ${LIBRARY} OUTPUT_VARIABLE table RESULT_VARIABLE rc)
+if(NOT rc EQUAL 0)
+    message(FATAL_ERROR "${NM} failed on ${LIBRARY}")
+endif()
+string(REGEX MATCHALL "[0-9a-fA-F]+ [TtDdBbRrVvWw] [^\n]+" lines "${table}")
+set(names)
+foreach(line IN LISTS lines)
+    string(REGEX REPLACE "^[0-9a-fA-F]+ [A-Za-z] " "" name "${line}")
+    list(APPEND names ${name})
+endforeach()
+list(SORT names)
+set(expected Decrypt DeleteRegistry Encrypt ReadRegistry UpdateRegistry)
+if(NOT names STREQUAL expected)
+    message(FATAL_ERROR "libqd7gd exports: ${names}\nexpected: ${expected}")
+endif()
+message(STATUS "libqd7gd exports exactly: ${names}")
