@@ -14,54 +14,42 @@
 // "alone", and keeps whatever it holds until its stdin closes.
 static const char* const InstanceArgument = "--be-an-instance";
 
-// Outlives the instance lock, which is let go at exit.
-static QTemporaryDir& runtimeDirectory()
-{
-    static QTemporaryDir directory;
-    return directory;
-}
-
 class TestSingleInstance : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void initTestCase();
     void onlyLiveInstancesCount();
 };
 
-void TestSingleInstance::initTestCase()
+static QByteArray startInstance(QProcess& instance)
 {
-    QVERIFY(runtimeDirectory().isValid());
-    QVERIFY(QFile::setPermissions(
-        runtimeDirectory().path(), QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner));
-    qputenv("XDG_RUNTIME_DIR", QFile::encodeName(runtimeDirectory().path()));
+    instance.start(QCoreApplication::applicationFilePath(), { QLatin1String(InstanceArgument) });
+    QByteArray answer;
+    while (!answer.contains('\n') && instance.waitForReadyRead(30000))
+        answer += instance.readAll();
+    return answer.trimmed();
 }
 
 void TestSingleInstance::onlyLiveInstancesCount()
 {
-    auto start = [](QProcess& instance) {
-        instance.start(QCoreApplication::applicationFilePath(), { QLatin1String(InstanceArgument) });
-        QByteArray answer;
-        while (!answer.contains('\n') && instance.waitForReadyRead(30000))
-            answer += instance.readAll();
-        return answer.trimmed();
-    };
-    const QString lockFile = runtimeDirectory().filePath(QStringLiteral("qd7console.lock"));
+    static QTemporaryDir runtime; // outlives the instance lock, which is let go at exit
+    QVERIFY(QFile::setPermissions(
+        runtime.path(), QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner));
+    qputenv("XDG_RUNTIME_DIR", QFile::encodeName(runtime.path()));
 
     QProcess first;
-    QCOMPARE(start(first), QByteArray("alone"));
+    QCOMPARE(startInstance(first), QByteArray("alone"));
     QVERIFY(earlierInstanceRunning());
-    QVERIFY(earlierInstanceRunning()); // asked again, still there
 
     first.kill(); // dies without letting go of its lock file
     QVERIFY(first.waitForFinished(30000));
-    QVERIFY(QFile::exists(lockFile));
+    QVERIFY(QFile::exists(runtime.filePath(QStringLiteral("qd7console.lock"))));
     QVERIFY(!earlierInstanceRunning());
     QVERIFY(!earlierInstanceRunning()); // this process holds it now
 
     QProcess later;
-    QCOMPARE(start(later), QByteArray("running"));
+    QCOMPARE(startInstance(later), QByteArray("running"));
     later.closeWriteChannel();
     QVERIFY(later.waitForFinished(30000));
 }

@@ -5,37 +5,27 @@
 #include <QStringList>
 #include <QTest>
 
-// A shell script standing in for a started program: it writes one argument a line to
-// `<script>.args`, and to `<script>.proc` its process id, session id and what its stdin is.
-// The file appears whole (renamed into place), so a test can wait for it.
-inline bool writeRecordingScript(const QString& scriptPath)
+// A shell script standing in for a started program: it writes its process id, session id and
+// stdin to `<script>.proc`, then its arguments, one a line, to `<script>.args`, renamed into place
+// so that a test can wait for it.
+inline bool writeRecordingScript(const QString& path)
 {
-    QFile script(scriptPath);
-    if (!script.open(QIODevice::WriteOnly))
-        return false;
-    script.write("#!/bin/sh\n"
-                 "out=\"$0.args\"\n"
-                 "for a in \"$@\"; do printf '%s\\n' \"$a\"; done > \"$out.tmp\"\n"
-                 "stat=$(cat /proc/$$/stat)\n"
-                 "set -- ${stat##*) }\n"
-                 "printf '%s\\n%s\\n%s\\n' $$ \"$4\" \"$(readlink /proc/$$/fd/0)\" > \"$0.proc\"\n"
-                 "mv \"$out.tmp\" \"$out\"\n");
-    script.close();
-    return script.setPermissions(script.permissions() | QFileDevice::ExeOwner | QFileDevice::ExeUser);
+    QFile script(path);
+    return script.open(QIODevice::WriteOnly)
+        && script.write("#!/bin/sh\n"
+                        "for a in \"$@\"; do printf '%s\\n' \"$a\"; done > \"$0.tmp\"\n"
+                        "stat=$(cat /proc/$$/stat); set -- ${stat##*) }\n"
+                        "echo $$ $4 $(readlink /proc/$$/fd/0) > \"$0.proc\"\n"
+                        "mv \"$0.tmp\" \"$0.args\"\n")
+        > 0
+        && script.setPermissions(script.permissions() | QFileDevice::ExeOwner);
 }
 
-inline bool waitForFile(const QString& path)
-{
-    return QTest::qWaitFor([&] { return QFile::exists(path); }, 30000);
-}
-
+// The non-empty lines of a file, once it exists.
 inline QStringList linesOf(const QString& path)
 {
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        return { QStringLiteral("<unreadable>") };
-    QStringList lines = QString::fromLocal8Bit(file.readAll()).split(QLatin1Char('\n'));
-    if (!lines.isEmpty() && lines.constLast().isEmpty())
-        lines.removeLast();
-    return lines;
+    if (!QTest::qWaitFor([&] { return file.exists(); }, 30000) || !file.open(QIODevice::ReadOnly))
+        return { QStringLiteral("<missing>") };
+    return QString::fromLocal8Bit(file.readAll()).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
 }
