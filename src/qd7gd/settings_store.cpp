@@ -2,7 +2,6 @@
 
 #include <QDeadlineTimer>
 #include <QFile>
-#include <QLockFile>
 #include <QSaveFile>
 #include <QThread>
 
@@ -10,6 +9,7 @@
 
 #include <cerrno>
 #include <fcntl.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -43,22 +43,44 @@ QByteArray parentOf(const QByteArray& path)
     return slash == 0 ? QByteArray("/") : path.left(slash);
 }
 
-// QLockFile's own waiting polls at 100 ms, then 200, 400...: a writer that waits on a busy store
-// would mostly sleep through the moments the lock is free. Polling every few milliseconds gives
-// every waiting process its turn soon.
-StoreStatus takeLock(QLockFile& lock, int timeoutMs)
+// Writers take turns by an exclusive flock on "<store>.lock". The kernel drops it when its holder
+// ends, so a crashed writer leaves no stale lock; and unlike QLockFile it costs no disk flush of
+// its own, so a write pays for one flush only, the store's.
+class StoreLock
 {
-    QDeadlineTimer deadline(timeoutMs);
-    for (int pause = 1;; pause = std::min(pause * 2, 4)) {
-        if (lock.tryLock(0))
-            return StoreOk;
-        if (lock.error() == QLockFile::PermissionError)
-            return StoreAccessDenied;
-        if (lock.error() != QLockFile::LockFailedError || deadline.hasExpired())
-            return StoreCannotWrite;
-        QThread::msleep(std::min<qint64>(pause, std::max<qint64>(deadline.remainingTime(), 0)));
+public:
+    explicit StoreLock(const QByteArray& path)
+        : m_fd(::open(path.constData(), O_RDWR | O_CREAT | O_CLOEXEC, 0666))
+    {
     }
-}
+    ~StoreLock()
+    {
+        if (m_fd >= 0)
+            ::close(m_fd); // releases the lock
+    }
+    StoreLock(const StoreLock&) = delete;
+    StoreLock& operator=(const StoreLock&) = delete;
+
+    // Polls every few milliseconds, so every waiting writer gets its turn soon.
+    StoreStatus take(int timeoutMs)
+    {
+        if (m_fd < 0)
+            return writeFailure(errno);
+        QDeadlineTimer deadline(timeoutMs);
+        for (int pause = 1;; pause = std::min(pause * 2, 4)) {
+            if (::flock(m_fd, LOCK_EX | LOCK_NB) == 0)
+                return StoreOk;
+            if (errno != EWOULDBLOCK && errno != EINTR)
+                return writeFailure(errno);
+            if (deadline.hasExpired())
+                return StoreCannotWrite;
+            QThread::msleep(std::min<qint64>(pause, std::max<qint64>(deadline.remainingTime(), 0)));
+        }
+    }
+
+private:
+    int m_fd;
+};
 
 } // namespace
 
@@ -222,8 +244,8 @@ StoreStatus SettingsStore::modify(QByteArrayView name, std::optional<QByteArrayV
 
     if (const StoreStatus s = makeDirectory())
         return s;
-    QLockFile lock(QFile::decodeName(m_path + ".lock"));
-    if (const StoreStatus s = takeLock(lock, m_lockTimeoutMs))
+    StoreLock lock(m_path + ".lock");
+    if (const StoreStatus s = lock.take(m_lockTimeoutMs))
         return s;
 
     // Under the lock, again from the file: another process may have written since.
