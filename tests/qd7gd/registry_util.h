@@ -1,38 +1,32 @@
 #pragma once
-// The settings store through the C interface, called as the console calls it: a 255-byte
-// buffer holding the value, a NUL and blanks; a 255-byte buffer to read into. Each test case
-// gets its own store in a temporary directory.
+// The store through the C interface as the console calls it, the tool ($QD7_TOOL) as a process.
 #include "qd7gd.h"
 
-#include <QByteArray>
+#include <QDir>
 #include <QFile>
+#include <QProcess>
 #include <QTemporaryDir>
-#include <QtGlobal>
+#include <QTest>
 
 #include <cstring>
 
+// The buffer holds the value, a NUL and blanks; a 255-byte value fills it without a NUL.
 inline int32_t setReg(const QByteArray& name, const QByteArray& value)
 {
-    QByteArray buffer(255, ' ');
-    const QByteArray terminated = value + '\0';
-    std::memcpy(buffer.data(), terminated.constData(), size_t(qMin(terminated.size(), qsizetype(255))));
+    const QByteArray buffer = (value + '\0').leftJustified(255, ' ', true);
     return UpdateRegistry(name.constData(), buffer.constData());
 }
 
-struct ReadResult {
-    int32_t count;
-    QByteArray value;   // the first `count` bytes of the buffer
-    bool terminated;    // a NUL follows them inside the buffer
-    bool guardIntact;   // nothing was written past byte 255
-};
-
-inline ReadResult readReg(const QByteArray& name)
+// A count that disagrees with the NUL after the value, or a byte past the buffer, shows as a
+// value no test expects.
+inline QByteArray readReg(const QByteArray& name)
 {
     char buffer[256];
     std::memset(buffer, '#', sizeof buffer);
     const int32_t n = ReadRegistry(name.constData(), buffer);
-    const int count = qBound(0, int(n), 255);
-    return {n, QByteArray(buffer, count), count < 255 && buffer[count] == '\0', buffer[255] == '#'};
+    if (n < 0 || n > 255 || (n < 255 && buffer[n] != '\0') || buffer[255] != '#')
+        return "<bad buffer>";
+    return QByteArray(buffer, n);
 }
 
 inline QByteArray fileBytes(const QString& path)
@@ -43,14 +37,31 @@ inline QByteArray fileBytes(const QString& path)
 
 inline void writeBytes(const QString& path, const QByteArray& bytes)
 {
+    QDir().mkpath(QFileInfo(path).path());
     QFile f(path);
-    if (f.open(QIODevice::WriteOnly | QIODevice::Truncate))
+    if (f.open(QIODevice::WriteOnly))
         f.write(bytes);
 }
 
-// A fresh store path for one test case, put into QD7_REGISTRY (child processes inherit it).
-struct TempStore {
+// A fresh store for each test case, in a directory not made yet; child processes inherit it.
+struct TempStore
+{
     QTemporaryDir dir;
     QString path = dir.path() + "/etc/qd7gd.ini";
     TempStore() { qputenv("QD7_REGISTRY", QFile::encodeName(path)); }
 };
+
+struct ToolRun
+{
+    int status = -1;
+    QByteArray out, err;
+};
+
+inline ToolRun runTool(const QStringList& args)
+{
+    QProcess p;
+    p.start(qEnvironmentVariable("QD7_TOOL"), args);
+    if (!p.waitForFinished(30000) || p.exitStatus() != QProcess::NormalExit)
+        return {};
+    return { p.exitCode(), p.readAllStandardOutput(), p.readAllStandardError() };
+}
