@@ -1,0 +1,1 @@
+#include "localize_form.h"

@@ -1,0 +1,1 @@
+#include "product_art.h"

@@ -1,0 +1,1 @@
+#include "string_library.h"
