@@ -198,7 +198,18 @@ void Form::SetFocus()
     } else {
         activateWindow();
     }
-    setFocus(Qt::OtherFocusReason);
+    // the focus goes where it was in the form last, else to the first control that takes it
+    QWidget* target = focusWidget();
+    if (!target || !isAncestorOf(target) || !target->isEnabled()) {
+        target = nullptr;
+        for (QWidget* child : findChildren<QWidget*>()) {
+            if ((child->focusPolicy() & Qt::TabFocus) && child->isEnabled() && !child->isHidden()) {
+                target = child;
+                break;
+            }
+        }
+    }
+    (target ? target : static_cast<QWidget*>(this))->setFocus(Qt::OtherFocusReason);
     if (lastActivatedForm != this)
         activate();
 }

@@ -1,5 +1,7 @@
 #include "timer.h"
 
+#include "form.h"
+
 Timer::Timer(QWidget* parent, const QString& name)
     : QObject(parent)
     , Control(this, nullptr, parent, QStringLiteral("Timer"), name)
@@ -36,5 +38,8 @@ void Timer::fire()
     if (!guard)
         return;
     m_running = false;
+    // a form unloaded by its own timer waits for deletion; its timer stays quiet meanwhile
+    if (ParentForm() && ParentForm()->isUnloaded())
+        return;
     restart();
 }

@@ -62,10 +62,27 @@ void TreeView::SetNodeImage(QTreeWidgetItem* node, int image)
         node->setIcon(0, image >= 0 && image < m_images.size() ? m_images.at(image) : QIcon());
 }
 
+QTreeWidgetItem* TreeView::HitTest(int x, int y) const
+{
+    return itemAt(Twips::toPixels(x), Twips::toPixels(y));
+}
+
 void TreeView::SetSelectedItem(QTreeWidgetItem* node)
 {
     const QSignalBlocker blocker(this);
     setCurrentItem(node);
+}
+
+bool TreeView::event(QEvent* event)
+{
+    if (event->type() == QEvent::KeyPress) {
+        auto* key = static_cast<QKeyEvent*>(event);
+        if (key->key() == Qt::Key_Tab || key->key() == Qt::Key_Backtab) {
+            KeyDown.raiseFromQt(KeyPreview::keyCode(key), KeyPreview::shiftMask(key));
+            return true;
+        }
+    }
+    return QTreeWidget::event(event);
 }
 
 void TreeView::mousePressEvent(QMouseEvent* event)

@@ -26,6 +26,8 @@ public:
     static QString NodeTag(const QTreeWidgetItem* node);
     static void SetNodeTag(QTreeWidgetItem* node, const QString& tag);
     void SetNodeImage(QTreeWidgetItem* node, int image);
+    // The node at a point given in twips, or null.
+    QTreeWidgetItem* HitTest(int x, int y) const;
     QTreeWidgetItem* SelectedItem() const { return currentItem(); }
     void SetSelectedItem(QTreeWidgetItem* node);
 
@@ -35,6 +37,8 @@ public:
     Event<int, int> KeyDown;
 
 protected:
+    // Tab is a key of the tree's own, not a step in the focus chain.
+    bool event(QEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
 

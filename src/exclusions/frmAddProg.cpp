@@ -1,0 +1,13 @@
+#include "frmAddProg.h"
+
+FormRef<AddProgForm> frmAddProg;
+
+AddProgForm::AddProgForm()
+    : PageForm(QStringLiteral("frmAddProg"))
+{
+}
+
+void AddProgForm::Form_Activate()
+{
+    ActivateAsEmptyPage();
+}

@@ -1,0 +1,13 @@
+#include "frmSpecRun.h"
+
+FormRef<SpecRunForm> frmSpecRun;
+
+SpecRunForm::SpecRunForm()
+    : PageForm(QStringLiteral("frmSpecRun"))
+{
+}
+
+void SpecRunForm::Form_Activate()
+{
+    ActivateAsEmptyPage();
+}

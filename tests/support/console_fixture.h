@@ -1,0 +1,57 @@
+#pragma once
+
+#include "platform/event_guard.h"
+#include "shell/startup.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include "qd7gd.h"
+
+// A console started in this process on a temporary installation and settings file. Its end is
+// recorded instead of ending the test.
+class ConsoleFixture
+{
+public:
+    ConsoleFixture()
+    {
+        binDir = dir.path() + QStringLiteral("/bin");
+        QDir().mkpath(binDir);
+        qputenv("QD7_REGISTRY", QFile::encodeName(dir.path() + QStringLiteral("/registry.ini")));
+        setValue("BinDir", binDir);
+        EventGuard::setTerminateHandler([this](int status) { exitStatuses << status; });
+    }
+    ~ConsoleFixture() { EventGuard::setTerminateHandler({}); }
+    ConsoleFixture(const ConsoleFixture&) = delete;
+    ConsoleFixture& operator=(const ConsoleFixture&) = delete;
+
+    static void setValue(const char* name, const QString& value)
+    {
+        QByteArray buffer(255, ' ');
+        const QByteArray bytes = value.toLatin1() + '\0';
+        buffer.replace(0, bytes.size(), bytes);
+        UpdateRegistry(name, buffer.constData());
+    }
+
+    static QWidget* widget(const QString& name)
+    {
+        for (QWidget* w : QApplication::allWidgets()) {
+            if (w->objectName() == name)
+                return w;
+        }
+        return nullptr;
+    }
+
+    static bool shown(const QString& name)
+    {
+        QWidget* w = widget(name);
+        return w && w->isVisible();
+    }
+
+    QTemporaryDir dir;
+    QString binDir;
+    QList<int> exitStatuses;
+};
