@@ -13,7 +13,7 @@ FormRef<TreeViewForm> frmTreeView;
 
 namespace {
 
-struct NodeSpec {
+struct NodeEntry {
     const char* key;
     int parent; // index of the folder, 0 for a top-level node
     int tag;
@@ -23,7 +23,7 @@ struct NodeSpec {
 using Img = ProductArt::TreeImage;
 
 // The 26 nodes in creation order; the order is their index, which the folder marks rely on.
-const NodeSpec nodeSpecs[] = {
+const NodeEntry nodeEntries[] = {
     { "ndCurrentConfig", 0, 1100, Img::CloseFolder },
     { "ndInitialConfig", 0, 1108, Img::CloseFolder },
     { "ndDataSource", 2, 1113, Img::Data },
@@ -73,11 +73,11 @@ void TreeViewForm::Form_Load()
 {
     treConfigurator->SetImageList(TreeViewImageList);
     m_nodes.clear();
-    for (const NodeSpec& spec : nodeSpecs) {
-        const QString parentKey = spec.parent ? TreeView::NodeKey(m_nodes.at(spec.parent - 1)) : QString();
-        QTreeWidgetItem* node = treConfigurator->AddNode(parentKey, QString::fromLatin1(spec.key), QString(), int(spec.image) - 1);
-        TreeView::SetNodeTag(node, QString::number(spec.tag));
-        if (spec.image == Img::CloseFolder) {
+    for (const NodeEntry& entry : nodeEntries) {
+        const QString parentKey = entry.parent ? TreeView::NodeKey(m_nodes.at(entry.parent - 1)) : QString();
+        QTreeWidgetItem* node = treConfigurator->AddNode(parentKey, QString::fromLatin1(entry.key), QString(), int(entry.image) - 1);
+        TreeView::SetNodeTag(node, QString::number(entry.tag));
+        if (entry.image == Img::CloseFolder) {
             // a folder shows the open folder while selected
             QIcon icon(ProductArt::treeImage(Img::CloseFolder));
             icon.addPixmap(ProductArt::treeImage(Img::OpenFolder), QIcon::Selected);
