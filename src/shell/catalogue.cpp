@@ -251,7 +251,7 @@ constexpr Entry BuiltIn[] = {
     { 1482, "Simplified Chinese" },
     { 1483, "Traditional Chinese" },
     { 1484, "Scheduled run" },
-    { 1485, "(C) Copyright Vantrel 1998, 2026. All rights reserved." },
+    { 1485, "(C) Copyright Vantrel 2026" },
     { 1486, "KQM7070E Status: Error" },
     { 1487, "KQM7071I Not a standard SAP transaction code. Would you still like to add it?" },
     { 1488, "Orvanta Monitor, Version 5.1.0 - Vantrel auto loader started" },
