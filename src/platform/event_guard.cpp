@@ -32,6 +32,14 @@ struct DepthScope {
     ~DepthScope() { --depth; }
 };
 
+// One level deeper; a failure Qt parked meanwhile comes out when the handler is done.
+void runOneLevel(const std::function<void()>& handler)
+{
+    DepthScope scope;
+    handler();
+    rethrowParked();
+}
+
 } // namespace
 
 bool inHandler()
@@ -42,15 +50,11 @@ bool inHandler()
 void raise(const std::function<void()>& handler)
 {
     if (depth > 0) {
-        DepthScope scope;
-        handler();
-        rethrowParked();
+        runOneLevel(handler);
         return;
     }
     try {
-        DepthScope scope;
-        handler();
-        rethrowParked();
+        runOneLevel(handler);
     } catch (...) {
         failFatally(std::current_exception());
     }
@@ -63,9 +67,7 @@ void raiseFromQt(const std::function<void()>& handler)
         return;
     }
     try {
-        DepthScope scope;
-        handler();
-        rethrowParked();
+        runOneLevel(handler);
     } catch (...) {
         if (!parked)
             parked = std::current_exception();
