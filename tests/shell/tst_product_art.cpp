@@ -19,30 +19,6 @@ private slots:
             QVERIFY(iconSizes.contains(QSize(size, size)));
     }
 
-    void splashIsOpaqueAndLogoIsRounded()
-    {
-        const QImage picture = splash().toImage();
-        QCOMPARE(qAlpha(picture.pixel(0, 0)), 255);
-        QCOMPARE(qAlpha(picture.pixel(picture.width() - 1, picture.height() - 1)), 255);
-        const QImage logo = pageLogo().toImage();
-        QCOMPARE(qAlpha(logo.pixel(0, 0)), 0);
-        QCOMPARE(qAlpha(logo.pixel(logo.width() / 2, logo.height() / 2)), 255);
-    }
-
-    void picturesAreDrawnOnce()
-    {
-        QCOMPARE(splash().cacheKey(), splash().cacheKey());
-        QCOMPARE(treeImage(TreeImage::Data).cacheKey(), treeImage(TreeImage::Data).cacheKey());
-    }
-
-    void treeImagesFollowTheTableOrder()
-    {
-        QCOMPARE(int(TreeImage::Server), 1);
-        QCOMPARE(int(TreeImage::TransGroup), 4);
-        QCOMPARE(int(TreeImage::OpenFolder), 8);
-        QCOMPARE(int(TreeImage::Trans), TreeImageCount);
-    }
-
     void treeImagesShowNoKeyGrey_data()
     {
         QTest::addColumn<int>("index");
