@@ -1,11 +1,11 @@
 #pragma once
 
-#include <QColor>
 #include <QIcon>
 #include <QPixmap>
 
-// The console's pictures, all drawn in code on first use and kept in QPixmapCache, so they go
-// away with the application instead of outliving it as static pixmaps would.
+// The console's pictures, from the resources the build draws (see art/art_drawing.h). Each is
+// loaded on first use and kept in QPixmapCache, so it goes away with the application instead of
+// outliving it as a static pixmap would.
 namespace ProductArt {
 
 // The tree's images, numbered as in the console's image table (1-based).
@@ -23,9 +23,6 @@ enum class TreeImage : int {
     Trans,
 };
 inline constexpr int TreeImageCount = 11;
-
-// The grey the tree images are drawn on before it is made transparent.
-inline constexpr QColor TransparencyKey(192, 192, 192);
 
 inline constexpr QSize SplashSize(521, 396);
 inline constexpr QSize AboutPictureSize(145, 202);

@@ -1,3 +1,4 @@
+#include "shell/art/art_drawing.h"
 #include "shell/product_art.h"
 
 #include <QTest>
@@ -40,7 +41,7 @@ private slots:
                     continue;
                 ++opaque;
                 QVERIFY2(
-                    QColor(pixel) != TransparencyKey, qPrintable(QStringLiteral("key grey at %1,%2").arg(x).arg(y)));
+                    QColor(pixel) != ArtDrawing::TransparencyKey, qPrintable(QStringLiteral("key grey at %1,%2").arg(x).arg(y)));
             }
         }
         // Enough of the square is drawn to read as an image, and enough left clear to sit on the tree.

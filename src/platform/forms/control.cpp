@@ -104,6 +104,9 @@ void Control::SetFontName(const QString& family)
     if (!m_widget)
         return;
     QFont font = m_widget->font();
+    // a font set again still costs a round of font-change events; each activation asks for it
+    if ((font.resolveMask() & QFont::FamilyResolved) && font.family() == family)
+        return;
     font.setFamily(family);
     m_widget->setFont(font);
 }

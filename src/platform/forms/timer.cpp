@@ -7,6 +7,8 @@ Timer::Timer(QWidget* parent, const QString& name)
     , Control(this, nullptr, parent, QStringLiteral("Timer"), name)
 {
     m_timer.setSingleShot(true);
+    // a coarse timer may fire 5% late; a form's interval is meant as given
+    m_timer.setTimerType(Qt::PreciseTimer);
     connect(&m_timer, &QTimer::timeout, this, &Timer::fire);
 }
 
