@@ -2,6 +2,8 @@
 
 #include "shell/page_form.h"
 
+class ListBox;
+
 class IDsToIgnoreForm : public PageForm
 {
     Q_OBJECT
@@ -10,6 +12,8 @@ public:
     IDsToIgnoreForm();
 
     void Form_Activate() override;
+
+    ListBox* lstIDsToIgnore;
 };
 
 extern FormRef<IDsToIgnoreForm> frmIDsToIgnore;

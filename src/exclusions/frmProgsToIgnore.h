@@ -2,6 +2,8 @@
 
 #include "shell/page_form.h"
 
+class ListBox;
+
 class ProgsToIgnoreForm : public PageForm
 {
     Q_OBJECT
@@ -10,6 +12,8 @@ public:
     ProgsToIgnoreForm();
 
     void Form_Activate() override;
+
+    ListBox* lstProgsToIgnore;
 };
 
 extern FormRef<ProgsToIgnoreForm> frmProgsToIgnore;

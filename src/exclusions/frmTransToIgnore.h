@@ -2,6 +2,8 @@
 
 #include "shell/page_form.h"
 
+class ListBox;
+
 class TransToIgnoreForm : public PageForm
 {
     Q_OBJECT
@@ -10,6 +12,8 @@ public:
     TransToIgnoreForm();
 
     void Form_Activate() override;
+
+    ListBox* lstTransToIgnore;
 };
 
 extern FormRef<TransToIgnoreForm> frmTransToIgnore;

@@ -7,6 +7,8 @@
 #include "frmCurrentConfig.h"
 #include "frmTreeView.h"
 #include "localize_form.h"
+#include "logs/debug_switches.h"
+#include "logs/log_files.h"
 #include "main_status_bar.h"
 #include "platform/event_guard.h"
 #include "platform/forms/menu_item.h"
@@ -19,6 +21,7 @@
 #include "schedules/frmSchStati.h"
 #include "schedules/frmSnapConfig.h"
 #include "servers/frmServers.h"
+#include "shared_state.h"
 #include "sla/frmSystemSLA.h"
 #include "sla/frmTransGroup.h"
 #include "specialrun/frmSpecRun.h"
@@ -201,19 +204,69 @@ bool MainForm::validate_parms(qint16 StartPos, qint16 NextPos, const QString& Te
     return Text::Trim(Text::Mid(Text, StartPos + 2, count)).isEmpty();
 }
 
-// The logs and the debug switches arrive with the logs subsystem.
-void MainForm::mnuDVXstatiLog_Click() { }
-void MainForm::mnuDVXsnapLog_Click() { }
-void MainForm::mnuStatiLog_Click() { }
-void MainForm::mnuSnapLog_Click() { }
-void MainForm::mnuLoadStatiLog_Click() { }
-void MainForm::mnuLoadSnapLog_Click() { }
-void MainForm::mnuAggStatiLog_Click() { }
-void MainForm::mnuAggSnapLog_Click() { }
-void MainForm::mnuLoaderLog_Click() { }
-void MainForm::mnuOptions_Click() { }
-void MainForm::mnuDebugLogFiles_Click() { }
-void MainForm::mnuLoaderHalt_Click() { }
+void MainForm::mnuDVXstatiLog_Click()
+{
+    OpenLog(LogFiles::StatiSummary);
+}
+
+void MainForm::mnuDVXsnapLog_Click()
+{
+    OpenLog(LogFiles::SnapSummary);
+}
+
+void MainForm::mnuStatiLog_Click()
+{
+    OpenLog(LogFiles::Stati);
+}
+
+void MainForm::mnuSnapLog_Click()
+{
+    OpenLog(LogFiles::Snap);
+}
+
+void MainForm::mnuLoadStatiLog_Click()
+{
+    OpenLog(LogFiles::LoadStati);
+}
+
+void MainForm::mnuLoadSnapLog_Click()
+{
+    OpenLog(LogFiles::LoadSnap);
+}
+
+void MainForm::mnuAggStatiLog_Click()
+{
+    OpenLog(LogFiles::AggStati);
+}
+
+void MainForm::mnuAggSnapLog_Click()
+{
+    OpenLog(LogFiles::AggSnap);
+}
+
+void MainForm::mnuLoaderLog_Click()
+{
+    OpenLog(LogFiles::Loader);
+}
+
+// The check marks come from the store each time the menu opens, so a change that another program
+// made shows. Of the two trace switches only SnapDebug counts here.
+void MainForm::mnuOptions_Click()
+{
+    ShowDebugSwitch(mnuDebugLogFiles, QStringLiteral("SnapDebug"));
+    DebugValue.clear();
+    ShowDebugSwitch(mnuLoaderHalt, QStringLiteral("LoadDebug"));
+}
+
+void MainForm::mnuDebugLogFiles_Click()
+{
+    FlipDebugSwitch(mnuDebugLogFiles, { QStringLiteral("SnapDebug"), QStringLiteral("StatiDebug") });
+}
+
+void MainForm::mnuLoaderHalt_Click()
+{
+    FlipDebugSwitch(mnuLoaderHalt, { QStringLiteral("LoadDebug") });
+}
 
 void MainForm::mnuAbout_Click()
 {

@@ -1,5 +1,6 @@
 #include "frmCurrentConfig.h"
 
+#include "exclusions/exclusion_lists.h"
 #include "frmTreeView.h"
 #include "localize_form.h"
 #include "navigation.h"
@@ -9,6 +10,7 @@
 #include "platform/forms/list_box.h"
 #include "platform/forms/text_box.h"
 #include "product_art.h"
+#include "repository/data_source.h"
 #include "settings/registry_values.h"
 #include "shared_state.h"
 
@@ -100,8 +102,12 @@ void CurrentConfigForm::clearSources()
     cmbTransactions->Clear();
 }
 
-// The data source, the server file (which also fills ServerTable) and the three exclusion lists
-// come in this order as their readers arrive.
+// In this order; nothing is cached, so the page always tells what the store and the files hold.
 void CurrentConfigForm::loadSources()
 {
+    LoadDataSource(Name());
+    // LoadServerFile comes second: besides lstServers it fills ServerTable at start-up.
+    LoadProgsToIgnore(Name());
+    LoadIDsToIgnore(Name());
+    LoadTransToIgnore(Name());
 }

@@ -7,6 +7,7 @@
 #include "shell/navigation.h"
 #include "shell/shared_state.h"
 #include "support/console_fixture.h"
+#include "support/msg_box_recorder.h"
 
 #include <QStatusBar>
 
@@ -203,6 +204,7 @@ private:
     }
 
     ConsoleFixture m_console;
+    MsgBoxRecorder m_boxes; // the log nodes say their log doesn't exist
     TreeView* m_tree = nullptr;
 };
 

@@ -55,6 +55,10 @@ void TextBox::SetSelLength(int length)
 void TextBox::SetPasswordChar(const QString& character)
 {
     setEchoMode(character.isEmpty() ? QLineEdit::Normal : QLineEdit::Password);
+    // the style's own mask character (often a dot) gives way to the one asked for
+    setStyleSheet(character.isEmpty()
+            ? QString()
+            : QStringLiteral("QLineEdit { lineedit-password-character: %1; }").arg(character.at(0).unicode()));
 }
 
 void TextBox::keyPressEvent(QKeyEvent* event)
