@@ -9,6 +9,7 @@
 #include "platform/forms/list_box.h"
 #include "platform/forms/text_box.h"
 #include "product_art.h"
+#include "servers/server_lists.h"
 #include "settings/registry_values.h"
 #include "shared_state.h"
 
@@ -104,4 +105,6 @@ void CurrentConfigForm::clearSources()
 // come in this order as their readers arrive.
 void CurrentConfigForm::loadSources()
 {
+    // second, after the data source: this load is also what fills ServerTable at start-up
+    LoadServerFile(QStringLiteral("frmCurrentConfig"));
 }
