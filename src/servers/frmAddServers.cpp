@@ -19,6 +19,8 @@
 #include "shell/page_frame.h"
 #include "shell/shared_state.h"
 
+#include <QApplication>
+
 FormRef<AddServersForm> frmAddServers;
 
 namespace {
@@ -103,7 +105,11 @@ TextBox* AddServersForm::addField(const QString& name, int maxLength, int top, i
     auto* field = new TextBox(this, name);
     field->SetMaxLength(maxLength);
     field->Move(FieldLeft, top, width, FieldHeight);
-    field->GotFocus.connect([field] { SelectFieldText(field); });
+    // GotFocus comes posted: one that arrives after the focus moved on would pull it back
+    field->GotFocus.connect([field] {
+        if (QApplication::focusWidget() == field)
+            SelectFieldText(field);
+    });
     return field;
 }
 

@@ -78,8 +78,12 @@ void ListBox::RemoveItem(int index)
 {
     if (index < 0 || index >= count())
         throw RuntimeError(RuntimeError::InvalidProcedureCall, QStringLiteral("Removing from %1").arg(Name()));
+    const bool wasSelected = index == ListIndex();
     const QSignalBlocker blocker(this);
     delete takeItem(index);
+    // the view would select the row that moved into the place
+    if (wasSelected)
+        clearSelection();
 }
 
 void ListBox::Clear()

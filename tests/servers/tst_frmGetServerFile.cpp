@@ -1,0 +1,102 @@
+#include "platform/forms/check_box.h"
+#include "platform/forms/file_pickers.h"
+#include "platform/forms/label.h"
+#include "platform/forms/list_box.h"
+#include "server_files.h"
+#include "servers/frmGetServerFile.h"
+#include "servers/frmServers.h"
+#include "settings/registry_values.h"
+#include "shell/MDIMainForm.h"
+#include "shell/shared_state.h"
+#include "support/console_fixture.h"
+#include "support/msg_box_recorder.h"
+
+#include <QDir>
+#include <QStatusBar>
+
+namespace {
+QString status()
+{
+    return MDIMainForm->staMainStatusBar->currentMessage();
+}
+} // namespace
+
+class TestFrmGetServerFile : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase()
+    {
+        StartConsole(QStringLiteral("qd7console -D"));
+        QTRY_VERIFY_WITH_TIMEOUT(ConsoleFixture::shown(QStringLiteral("frmCurrentConfig")), 10000);
+        m_default = m_console.binDir + QStringLiteral("/qd7server.dat");
+        ConsoleFixture::setValue("StatiInput", m_default);
+        writeBytes(m_default, serverRecord("sap1.corp"));
+        m_share = m_console.dir.filePath(QStringLiteral("share"));
+        QDir().mkpath(m_share);
+        writeBytes(m_share + QStringLiteral("/QD7Server.DAT"), serverRecord("shared.corp", "PRD", "100", "02"));
+    }
+
+    // the location page opened by ticking the box, in BinDir
+    void init()
+    {
+        ServerFilePath.clear();
+        frmServers->Show();
+        frmServers->chkNetwork->SetValue(1);
+        QVERIFY(ConsoleFixture::shown(QStringLiteral("frmGetServerFile")));
+        QCOMPARE(frmGetServerFile->fileFileList->Path(), m_console.binDir);
+    }
+
+    // The name in any case, kept as it is; the server page shows that file, and its OK stores it.
+    void okTakesTheChosenFile()
+    {
+        frmGetServerFile->dirDirList->SetPath(m_share);
+        QCOMPARE(frmGetServerFile->fileFileList->ListCount(), 1);
+        frmGetServerFile->fileFileList->setCurrentRow(0);
+        frmGetServerFile->cmdOK_Click();
+        const QString chosen = m_share + QStringLiteral("/QD7Server.DAT");
+        QCOMPARE(ServerFilePath, chosen);
+        QVERIFY(ConsoleFixture::shown(QStringLiteral("frmServers")));
+        QCOMPARE(frmServers->chkNetwork->Value(), 0);
+        QCOMPARE(frmServers->lblFilePath->Caption(), chosen);
+        QCOMPARE(frmServers->lstServer->List(0), QStringLiteral("shared.corp 02"));
+        frmServers->cmdOK_Click();
+        QCOMPARE(ReadRegValue(QStringLiteral("StatiInput")), chosen);
+        QCOMPARE(ReadRegValue(QStringLiteral("SnapInput")), chosen);
+        QCOMPARE(readBytes(chosen), serverRecord("shared.corp", "PRD", "100", "02"));
+        ConsoleFixture::setValue("StatiInput", m_default);
+    }
+
+    void nothingChosenIsRefused()
+    {
+        frmGetServerFile->dirDirList->SetPath(m_console.dir.path());
+        MsgBoxRecorder recorder;
+        frmGetServerFile->cmdOK_Click();
+        QCOMPARE(recorder.texts(),
+            QStringList { "KQM7073E Wrong application server file selected. Must select qd7server.dat" });
+        QCOMPARE(status(), QStringLiteral("KQM7050E Status: Action failed"));
+        QVERIFY(ServerFilePath.isEmpty());
+        QVERIFY(ConsoleFixture::shown(QStringLiteral("frmGetServerFile")));
+        frmGetServerFile->cmdCancel_Click();
+    }
+
+    // Cancel leaves ServerFilePath at the path the server page shows, so its OK keeps it.
+    void cancelKeepsThePathShown()
+    {
+        frmGetServerFile->cmdCancel_Click();
+        QVERIFY(ConsoleFixture::shown(QStringLiteral("frmServers")));
+        QCOMPARE(frmServers->chkNetwork->Value(), 0);
+        QCOMPARE(ServerFilePath, m_default);
+        QCOMPARE(frmServers->lblFilePath->Caption(), m_default);
+        QCOMPARE(status(), QStringLiteral("KQM7054W Action cancelled"));
+    }
+
+private:
+    ConsoleFixture m_console;
+    QString m_default;
+    QString m_share;
+};
+
+QTEST_MAIN(TestFrmGetServerFile)
+#include "tst_frmGetServerFile.moc"
