@@ -1,25 +1,15 @@
 #include "platform/forms/check_box.h"
 #include "platform/forms/file_pickers.h"
 #include "platform/forms/label.h"
-#include "platform/forms/list_box.h"
 #include "server_files.h"
 #include "servers/frmGetServerFile.h"
 #include "servers/frmServers.h"
 #include "settings/registry_values.h"
-#include "shell/MDIMainForm.h"
 #include "shell/shared_state.h"
 #include "support/console_fixture.h"
 #include "support/msg_box_recorder.h"
 
 #include <QDir>
-#include <QStatusBar>
-
-namespace {
-QString status()
-{
-    return MDIMainForm->staMainStatusBar->currentMessage();
-}
-} // namespace
 
 class TestFrmGetServerFile : public QObject
 {
