@@ -64,9 +64,8 @@ AddServersForm::AddServersForm()
     txtIndex->SetVisible(false);
 
     int top = FirstFieldTop;
-    const auto labelFor = [&](const QString& name, int id) {
-        return AddLabel(this, name, id, LabelLeft, top + 30, LabelWidth, 255);
-    };
+    const auto labelFor
+        = [&](const QString& name, int id) { return AddLabel(this, name, id, LabelLeft, top + 30, LabelWidth, 255); };
     lblServer = labelFor(QStringLiteral("lblServer"), 1114);
     txtServer = addField(QStringLiteral("txtServer"), 100, top, 3735);
     top += FieldStep;

@@ -18,8 +18,8 @@ bool IsFullyQualified(const QString& server)
     return !Numeric::isNumeric(host.remove(QLatin1Char('.')));
 }
 
-int DuplicateServerRow(int row, const QString& server, const QString& sid, const QString& client,
-    const QString& instance)
+int DuplicateServerRow(
+    int row, const QString& server, const QString& sid, const QString& client, const QString& instance)
 {
     using Text::Trim;
     using Text::UCase;

@@ -13,5 +13,5 @@ bool IsFullyQualified(const QString& server);
 
 // The first row of ServerTable, other than `row` (0 for a new server), with the same server and
 // SID in any letter case, the same client and the same instance, all trimmed; 0 when none.
-int DuplicateServerRow(int row, const QString& server, const QString& sid, const QString& client,
-    const QString& instance);
+int DuplicateServerRow(
+    int row, const QString& server, const QString& sid, const QString& client, const QString& instance);

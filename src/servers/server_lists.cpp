@@ -73,8 +73,8 @@ void sizeServerTable(qint64 fileLength)
     const double records = Numeric::roundHalfEven(double(fileLength) / ServerRecordBuffer::Length);
     if (records > std::numeric_limits<qint16>::max()) {
         ServerTable.redim(qMax(0, int(ServerCount)), ServerColumn::Last);
-        throw RuntimeError(RuntimeError::Overflow,
-            QStringLiteral("Counting %1 records of the server file").arg(records, 0, 'f', 0));
+        throw RuntimeError(
+            RuntimeError::Overflow, QStringLiteral("Counting %1 records of the server file").arg(records, 0, 'f', 0));
     }
     ServerTable.redim(int(records), ServerColumn::Last);
     ServerCount = qint16(records);

@@ -7,7 +7,8 @@
 
 namespace {
 
-struct Field {
+struct Field
+{
     QString ServerRecordBuffer::*member;
     int width;
     int column;

@@ -38,7 +38,8 @@ private slots:
         QCOMPARE(frmGetServerFile->fileFileList->Path(), m_console.binDir);
     }
 
-    // The name in any case, kept as it is; the server page shows that file, and its OK stores it.
+    // The name in any case, kept as it is; the server page shows that file, and its OK stores it
+    // in StatiInput.
     void okTakesTheChosenFile()
     {
         frmGetServerFile->dirDirList->SetPath(m_share);
@@ -53,8 +54,9 @@ private slots:
         QCOMPARE(frmServers->lstServer->List(0), QStringLiteral("shared.corp 02"));
         frmServers->cmdOK_Click();
         QCOMPARE(ReadRegValue(QStringLiteral("StatiInput")), chosen);
-        QCOMPARE(ReadRegValue(QStringLiteral("SnapInput")), chosen);
         QCOMPARE(readBytes(chosen), serverRecord("shared.corp", "PRD", "100", "02"));
+        // the copy of the old file lies in BinDir all the same
+        QCOMPARE(readBytes(m_console.binDir + QStringLiteral("/qd7server.bak")), readBytes(chosen));
         ConsoleFixture::setValue("StatiInput", m_default);
     }
 

@@ -13,7 +13,9 @@ namespace {
 // two rows under one entry; bytes beyond ASCII, a UTF-8 name among them, pass as they are
 const QByteArray Sap1 = serverRecord("sap1.corp", "PRD", "100", "00", "\x80\xff\xe4-1");
 const QByteArray Sap1OtherClient = serverRecord("sap1.corp", "PRD", "200", "00");
-const QByteArray Sap2 = serverRecord("s\xc3\xbc" "d.corp", "QAS", "001", "01");
+const QByteArray Sap2 = serverRecord("s\xc3\xbc"
+                                     "d.corp",
+    "QAS", "001", "01");
 } // namespace
 
 class TestFrmServers : public QObject
@@ -38,7 +40,8 @@ private slots:
         frmCurrentConfig->Show();
         frmServers->Show();
         QCOMPARE(items(frmServers->lstServer).join(QLatin1Char('|')),
-            QString::fromLatin1("sap1.corp 00|sap1.corp 00|s\xc3\xbc" "d.corp 01"));
+            QString::fromLatin1("sap1.corp 00|sap1.corp 00|s\xc3\xbc"
+                                "d.corp 01"));
     }
 
     // Records in list order, each entry from the first row that has it.

@@ -1,5 +1,4 @@
 #include "servers/server_checks.h"
-#include "shell/shared_state.h"
 
 #include <QTest>
 
@@ -26,27 +25,6 @@ private slots:
         QFETCH(QString, server);
         QFETCH(bool, qualified);
         QCOMPARE(IsFullyQualified(server), qualified);
-    }
-
-    // Server and SID in any case, client and instance trimmed; the edited row is no twin of itself.
-    void duplicates()
-    {
-        ServerCount = 2;
-        ServerTable.redim(2, ServerColumn::Last);
-        for (int row = 1; row <= 2; ++row) {
-            ServerTable(row, ServerColumn::Server) = QStringLiteral("sap1.corp ");
-            ServerTable(row, ServerColumn::SID) = QStringLiteral("PRD");
-            ServerTable(row, ServerColumn::Client) = QStringLiteral("00%1").arg(row);
-            ServerTable(row, ServerColumn::Instance) = QStringLiteral("00");
-        }
-        QCOMPARE(DuplicateServerRow(0, QStringLiteral(" SAP1.Corp"), QStringLiteral("prd "), QStringLiteral("002"),
-                     QStringLiteral("00")), 2);
-        QCOMPARE(DuplicateServerRow(2, QStringLiteral("sap1.corp"), QStringLiteral("PRD"), QStringLiteral("002"),
-                     QStringLiteral("00")), 0);
-        QCOMPARE(DuplicateServerRow(2, QStringLiteral("sap1.corp"), QStringLiteral("PRD"), QStringLiteral("001"),
-                     QStringLiteral("00")), 1);
-        QCOMPARE(DuplicateServerRow(0, QStringLiteral("sap1.corp"), QStringLiteral("PRD"), QStringLiteral("1"),
-                     QStringLiteral("00")), 0);
     }
 };
 

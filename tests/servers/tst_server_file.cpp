@@ -19,10 +19,8 @@ private slots:
         QDir(m_path).removeRecursively();
         QDir().mkpath(m_dir.filePath(QStringLiteral("share")));
         writeBytes(m_path, "old servers");
-        ServerCount = 2;
-        ServerTable.redim(2, ServerColumn::Last);
-        ServerTable(1, ServerColumn::Server) = QStringLiteral("sap1.corp");
-        ServerTable(2, ServerColumn::Server) = QStringLiteral("sap2.corp");
+        ServerCount = 1;
+        ServerTable.redim(1, ServerColumn::Last);
     }
 
     void cleanup() { Clock::reset(); }
@@ -51,17 +49,6 @@ private slots:
         QCOMPARE(failureOf([] { WaitForSeconds(1); }).Number, ends ? 0 : 6);
         if (ends)
             QCOMPARE(readings, 5);
-    }
-
-    void saveKeepsTheOldFileInBinDir()
-    {
-        SaveServerFile(m_path, { 2, 1, 2 });
-        QCOMPARE(readBytes(ServerBackupPath()), QByteArray("old servers"));
-        const QByteArray saved = readBytes(m_path);
-        QCOMPARE(saved.size(), 3 * 183);
-        QCOMPARE(saved.mid(183, 9) + saved.mid(366, 9), QByteArray("sap1.corpsap2.corp"));
-        SaveServerFile(m_dir.filePath(QStringLiteral("new.dat")), {}); // nothing to back up: the copy stays
-        QCOMPARE(readBytes(ServerBackupPath()), QByteArray("old servers"));
     }
 
     // What the console's last box tells: the step, the file, and what is left.

@@ -51,8 +51,8 @@ private slots:
         QTest::newRow("empty file") << QByteArray() << QStringList();
         QTest::newRow("100 bytes over: one more") << TwoServers + serverRecord("sap3.corp").left(100)
                                                   << QStringList { "sap1.corp 00", "sap2.corp 01", "sap3.corp " };
-        QTest::newRow("91 bytes over: none") << TwoServers + QByteArray(91, 'x')
-                                             << QStringList { "sap1.corp 00", "sap2.corp 01" };
+        QTest::newRow("91 bytes over: none")
+            << TwoServers + QByteArray(91, 'x') << QStringList { "sap1.corp 00", "sap2.corp 01" };
     }
 
     void recordCountRoundsHalfToEven()
@@ -81,17 +81,6 @@ private slots:
         QCOMPARE(frmSpecRun->lstSvrsToAgg->ListIndex(), 1);
         QCOMPARE(frmServers->lstServer->ListCount(), 2);
         frmSpecRun->lstSvrsToAgg->Clear();
-    }
-
-    void fillServerListReadsTheTableOnly()
-    {
-        QFile::remove(m_path);
-        ServerTable(2, ServerColumn::Instance) = QStringLiteral(" 07 ");
-        frmServers->lstServer->Clear();
-        frmServers->lstServer->SetEnabled(false);
-        FillServerList(QStringLiteral("frmServers"));
-        QCOMPARE(items(frmServers->lstServer), (QStringList { "sap1.corp 00", "sap2.corp 07" }));
-        QVERIFY(frmServers->lstServer->Enabled());
     }
 
     void heldFileByEachCaller_data()

@@ -13,7 +13,8 @@ private slots:
         QTest::addColumn<QByteArray>("bytes");
         const QString full = QString(99, QLatin1Char('s')) + QLatin1Char('!');
         QTest::newRow("full fields, no blank between") << full << "PRD" << serverRecord(full.toLatin1(), "PRD");
-        QTest::newRow("longer values cut") << full + QStringLiteral("cut") << "PRDX" << serverRecord(full.toLatin1(), "PRD");
+        QTest::newRow("longer values cut")
+            << full + QStringLiteral("cut") << "PRDX" << serverRecord(full.toLatin1(), "PRD");
         QTest::newRow("padded, latin-1 kept") << QString::fromLatin1(" s\xfc\x80.corp") << QString::fromLatin1("\xe4")
                                               << serverRecord(" s\xfc\x80.corp", "\xe4");
     }
@@ -30,15 +31,6 @@ private slots:
         const ServerRecordBuffer back = ServerRecordBuffer::fromBytes(bytes);
         QCOMPARE(back.Server, QString::fromLatin1(bytes.left(100)));
         QCOMPARE(back.toBytes(), bytes);
-    }
-
-    // The trailing piece of a file gives what it reaches; its entry has no instance.
-    void shortRecord()
-    {
-        const ServerRecordBuffer record = ServerRecordBuffer::fromBytes(serverRecord("sap1.corp").left(105));
-        QCOMPARE(record.ID, QStringLiteral("QD7MO"));
-        QVERIFY(record.Password.isEmpty() && record.Language.isEmpty());
-        QCOMPARE(ServerEntry(record.Server, record.Instance), QStringLiteral("sap1.corp "));
     }
 
     void languageLettersByListPosition()
