@@ -42,6 +42,7 @@ private slots:
     // the editor open for a new server, beside a file of one
     void init()
     {
+        m_boxes.calls.clear();
         writeBytes(m_path, serverRecord("sap1.corp"));
         frmCurrentConfig->Show();
         frmServers->Show();
@@ -74,9 +75,8 @@ private slots:
         QFETCH(QString, selected);
         fill(fields);
         frmAddServers->txtServer->SetFocus();
-        MsgBoxRecorder recorder;
         frmAddServers->cmdOK_Click();
-        QCOMPARE(recorder.texts(), QStringList { Catalogue::builtInText(message) });
+        QCOMPARE(m_boxes.texts(), QStringList { Catalogue::builtInText(message) });
         QCOMPARE(status(), QStringLiteral("KQM7052I Action successful"));
         QVERIFY(QApplication::focusWidget());
         QCOMPARE(QApplication::focusWidget()->objectName(), selected);
@@ -89,7 +89,7 @@ private slots:
         QTest::addColumn<int>("language");
         QTest::addColumn<QString>("stored");
         QTest::newRow("padded, upper case, as typed")
-            << "/H/gw.corp/H/sap2.corp |u | pr|7|1" << 8 << "/H/gw.corp/H/sap2.corp |u |PR|001|07|T";
+            << "/H/gw.corp/H/sap2.corp |u |p| pr|7|1" << 8 << "/H/gw.corp/H/sap2.corp |u |PR|001|07|T";
         QTest::newRow("signed, exponent, no language") << "sap2.corp|u|p|QAS|+0|1e2" << -1 << "sap2.corp|u|QAS|100|00|";
     }
 
@@ -116,9 +116,8 @@ private slots:
     void duplicatesAreRefused()
     {
         fill(QStringLiteral("SAP1.corp|u|p|prd|0|100"));
-        MsgBoxRecorder recorder;
         frmAddServers->cmdOK_Click();
-        QCOMPARE(recorder.texts(), QStringList { "KQM7025E Duplicate servers not allowed" });
+        QCOMPARE(m_boxes.texts(), QStringList { "KQM7025E Duplicate servers not allowed" });
         QCOMPARE(status(), QStringLiteral("KQM7050E Status: Action failed"));
         frmAddServers->txtInstanceNo->SetText(QStringLiteral("1"));
         frmAddServers->cmdOK_Click();
@@ -147,6 +146,7 @@ private slots:
 
 private:
     ConsoleFixture m_console;
+    MsgBoxRecorder m_boxes; // every box is answered and recorded
     QString m_path;
 };
 

@@ -31,6 +31,7 @@ private slots:
     // the location page opened by ticking the box, in BinDir
     void init()
     {
+        m_boxes.calls.clear();
         ServerFilePath.clear();
         frmServers->Show();
         frmServers->chkNetwork->SetValue(1);
@@ -63,9 +64,8 @@ private slots:
     void nothingChosenIsRefused()
     {
         frmGetServerFile->dirDirList->SetPath(m_console.dir.path());
-        MsgBoxRecorder recorder;
         frmGetServerFile->cmdOK_Click();
-        QCOMPARE(recorder.texts(),
+        QCOMPARE(m_boxes.texts(),
             QStringList { "KQM7073E Wrong application server file selected. Must select qd7server.dat" });
         QCOMPARE(status(), QStringLiteral("KQM7050E Status: Action failed"));
         QVERIFY(ServerFilePath.isEmpty());
@@ -86,6 +86,7 @@ private slots:
 
 private:
     ConsoleFixture m_console;
+    MsgBoxRecorder m_boxes; // every box is answered and recorded
     QString m_default;
     QString m_share;
 };

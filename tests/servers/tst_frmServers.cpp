@@ -35,6 +35,7 @@ private slots:
     // the page on screen, freshly read
     void init()
     {
+        m_boxes.calls.clear();
         writeBytes(m_path, Sap1 + Sap1OtherClient + Sap2);
         QFile::remove(m_backup);
         frmCurrentConfig->Show();
@@ -87,14 +88,13 @@ private slots:
     // No failure path: the console ends, its last box telling what failed and what is left.
     void okOnAHeldFileEndsTheConsole()
     {
-        MsgBoxRecorder recorder;
         {
             const FileLocker collector(m_path);
             QVERIFY(collector.isLocked());
             frmServers->cmdOK->Click.raise();
         }
         QCOMPARE(m_console.exitStatuses, QList<int> { 1 });
-        QCOMPARE(recorder.texts(),
+        QCOMPARE(m_boxes.texts(),
             QStringList { QStringLiteral("Run-time error '70': Permission denied\n\nSaving the server list failed: "
                                          "Copying %1 to %2.\nThe server file was not changed.")
                               .arg(m_path, m_backup) });
@@ -103,6 +103,7 @@ private slots:
 
 private:
     ConsoleFixture m_console;
+    MsgBoxRecorder m_boxes; // every box is answered and recorded
     QString m_path;
     QString m_backup;
 };

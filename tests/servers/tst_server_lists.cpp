@@ -37,6 +37,7 @@ private slots:
     // each case starts from a good load of two servers
     void init()
     {
+        m_boxes.calls.clear();
         QDir(m_path).removeRecursively();
         ConsoleFixture::setValue("StatiInput", m_path);
         writeBytes(m_path, TwoServers);
@@ -102,9 +103,8 @@ private slots:
         {
             const FileLocker collector(m_path);
             QVERIFY(collector.isLocked());
-            MsgBoxRecorder recorder;
             LoadServerFile(caller);
-            QCOMPARE(recorder.texts(), boxes);
+            QCOMPARE(m_boxes.texts(), boxes);
         }
         Clock::reset();
         QCOMPARE(status(), QStringLiteral("KQM7044E Server data file is locked by another process."));
@@ -135,9 +135,8 @@ private slots:
             ConsoleFixture::setValue("StatiInput", QString());
         else if (failure == QLatin1String("too many"))
             writeBytes(m_path, serverRecord("sap9.corp").repeated(32768));
-        MsgBoxRecorder recorder;
         loadForServerPage();
-        QVERIFY(recorder.calls.isEmpty());
+        QVERIFY(m_boxes.calls.isEmpty());
         QCOMPARE(status(), QStringLiteral("KQM7047W Loading server data"));
         QCOMPARE(frmServers->lstServer->ListCount(), 0);
         QCOMPARE(ServerCount, 2);
@@ -147,6 +146,7 @@ private slots:
 
 private:
     ConsoleFixture m_console;
+    MsgBoxRecorder m_boxes; // every box is answered and recorded
     QString m_path;
 };
 
