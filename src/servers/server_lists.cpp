@@ -17,13 +17,15 @@
 #include <QSet>
 
 #include <limits>
+#include <utility>
 
 namespace {
 
 const QString ServerPageCaller = QStringLiteral("frmServers");
 const QString StartPageCaller = QStringLiteral("frmCurrentConfig");
 
-// Where the entries of one load go.
+// Where the entries of one load go. They are gathered and added to each list in one step: a list
+// filled item by item would take most of a load's time.
 class ServerListTargets
 {
 public:
@@ -41,28 +43,41 @@ public:
     {
         const QString entry = ServerEntry(server, instance);
         if (m_serverPage) {
-            frmServers->lstServer->AddItem(entry);
+            m_serverEntries << entry;
             return;
         }
-        frmCurrentConfig->lstServers->AddItem(Text::Trim(server));
+        m_names << Text::Trim(server);
         if (!m_chosen.contains(entry))
-            frmSpecRun->lstServers->AddItem(entry);
-        m_added = true;
+            m_available << entry;
+        m_walked = true;
     }
 
-    // Each entry is compared by walking lstSvrsToAgg row by row, which leaves its last row
-    // selected: the same end, reached once.
-    void finish()
+    // Adds what was gathered; a load that fails on the way lists what it read.
+    void flush()
     {
+        if (m_serverPage) {
+            if (!m_serverEntries.isEmpty())
+                frmServers->lstServer->AddItems(std::exchange(m_serverEntries, {}));
+            return;
+        }
+        if (!std::exchange(m_walked, false))
+            return;
+        frmCurrentConfig->lstServers->AddItems(std::exchange(m_names, {}));
+        frmSpecRun->lstServers->AddItems(std::exchange(m_available, {}));
+        // each entry was compared by walking lstSvrsToAgg row by row, which leaves its last row
+        // selected: the same end, reached once
         ListBox* chosen = frmSpecRun->lstSvrsToAgg;
-        if (m_added && chosen->ListCount() > 0)
+        if (chosen->ListCount() > 0)
             chosen->SetListIndex(chosen->ListCount() - 1);
     }
 
 private:
     bool m_serverPage;
-    bool m_added = false;
+    bool m_walked = false;
     QSet<QString> m_chosen;
+    QStringList m_serverEntries;
+    QStringList m_names;
+    QStringList m_available;
 };
 
 // Sizes ServerTable afresh for the records of a file, dropping its rows. More records than the
@@ -96,20 +111,21 @@ void LoadServerFile(const QString& caller)
 {
     ShowStatus(1449);
     const QString path = ServerFilePath.isEmpty() ? ReadRegValue(QStringLiteral("StatiInput")) : ServerFilePath;
+    ServerListTargets targets(caller);
     try {
         RecordFile file(path, ServerRecordBuffer::Length, RecordFile::Access::Read);
         sizeServerTable(file.length());
         frmSpecRun->lstServers->Clear();
-        ServerListTargets targets(caller);
         for (int row = 1; row <= ServerCount; ++row) {
             ServerRecord = ServerRecordBuffer::fromBytes(file.read(row));
             targets.add(ServerRecord.Server, ServerRecord.Instance);
             PutRecordInRow(ServerRecord, ServerTable, row);
         }
-        targets.finish();
+        targets.flush();
         file.close();
         frmServers->lstServer->SetEnabled(true);
     } catch (const RuntimeError& error) {
+        targets.flush();
         if (error.Number == RuntimeError::PermissionDenied)
             reportHeldFile(caller);
         // anything else: the load just ends, the table as far as it got
@@ -123,6 +139,6 @@ void FillServerList(const QString& caller)
     ServerListTargets targets(caller);
     for (int row = 1; row <= ServerCount; ++row)
         targets.add(ServerTable(row, ServerColumn::Server), ServerTable(row, ServerColumn::Instance));
-    targets.finish();
+    targets.flush();
     frmServers->lstServer->SetEnabled(true);
 }

@@ -1,12 +1,11 @@
 #include "list_box.h"
 
 #include "key_preview.h"
-#include "sorted_insert.h"
 #include "platform/runtime_error.h"
+#include "sorted_insert.h"
 
 #include <QKeyEvent>
 #include <QSignalBlocker>
-
 
 ListBox::ListBox(QWidget* parent, const QString& name)
     : QListWidget(parent)
@@ -28,8 +27,8 @@ int ListBox::ListIndex() const
 void ListBox::SetListIndex(int index)
 {
     if (index < -1 || index >= count())
-        throw RuntimeError(RuntimeError::InvalidPropertyValue,
-            QStringLiteral("Selecting row %1 of %2").arg(index).arg(Name()));
+        throw RuntimeError(
+            RuntimeError::InvalidPropertyValue, QStringLiteral("Selecting row %1 of %2").arg(index).arg(Name()));
     {
         const QSignalBlocker blocker(this);
         if (index == -1) {
@@ -64,7 +63,8 @@ void ListBox::AddItem(const QString& text, int index)
 {
     int at = count();
     if (m_sorted) {
-        at = sortedInsertPosition(count(), [this](int row) { return item(row)->text(); }, text);
+        at = sortedInsertPosition(
+            count(), [this](int row) { return item(row)->text(); }, text);
     } else if (index >= 0) {
         if (index > count())
             throw RuntimeError(RuntimeError::InvalidProcedureCall, QStringLiteral("Adding to %1").arg(Name()));
@@ -72,6 +72,17 @@ void ListBox::AddItem(const QString& text, int index)
     }
     const QSignalBlocker blocker(this);
     insertItem(at, text);
+}
+
+void ListBox::AddItems(const QStringList& texts)
+{
+    if (m_sorted) {
+        for (const QString& text : texts)
+            AddItem(text);
+        return;
+    }
+    const QSignalBlocker blocker(this);
+    insertItems(count(), texts);
 }
 
 void ListBox::RemoveItem(int index)

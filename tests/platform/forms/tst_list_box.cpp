@@ -23,8 +23,10 @@ private slots:
     {
         m_list->AddItem(QStringLiteral("b"));
         m_list->AddItem(QStringLiteral("a"));
+        m_list->AddItems({ QStringLiteral("c"), QStringLiteral("d") });
         QCOMPARE(m_list->ListIndex(), -1);
-        QCOMPARE(m_list->ListCount(), 2);
+        QCOMPARE(m_list->ListCount(), 4);
+        QCOMPARE(m_list->List(3), QStringLiteral("d"));
         QCOMPARE(m_list->List(0), QStringLiteral("b"));
         QCOMPARE(m_list->List(5), QString());
         QCOMPARE(m_clicks, 0);
