@@ -1,11 +1,12 @@
 #include "list_box.h"
 
 #include "key_preview.h"
-#include "platform/runtime_error.h"
 #include "sorted_insert.h"
+#include "platform/runtime_error.h"
 
 #include <QKeyEvent>
 #include <QSignalBlocker>
+
 
 ListBox::ListBox(QWidget* parent, const QString& name)
     : QListWidget(parent)
@@ -27,8 +28,8 @@ int ListBox::ListIndex() const
 void ListBox::SetListIndex(int index)
 {
     if (index < -1 || index >= count())
-        throw RuntimeError(
-            RuntimeError::InvalidPropertyValue, QStringLiteral("Selecting row %1 of %2").arg(index).arg(Name()));
+        throw RuntimeError(RuntimeError::InvalidPropertyValue,
+            QStringLiteral("Selecting row %1 of %2").arg(index).arg(Name()));
     {
         const QSignalBlocker blocker(this);
         if (index == -1) {
@@ -63,8 +64,7 @@ void ListBox::AddItem(const QString& text, int index)
 {
     int at = count();
     if (m_sorted) {
-        at = sortedInsertPosition(
-            count(), [this](int row) { return item(row)->text(); }, text);
+        at = sortedInsertPosition(count(), [this](int row) { return item(row)->text(); }, text);
     } else if (index >= 0) {
         if (index > count())
             throw RuntimeError(RuntimeError::InvalidProcedureCall, QStringLiteral("Adding to %1").arg(Name()));
