@@ -9,6 +9,7 @@
 #include "platform/forms/label.h"
 #include "platform/forms/list_box.h"
 #include "platform/forms/text_box.h"
+#include "platform/runtime_error.h"
 #include "platform/text.h"
 #include "server_file.h"
 #include "server_lists.h"
@@ -108,7 +109,8 @@ void ServersForm::cmdEdit_Click()
 }
 
 // Memory only. Every row with the deleted entry goes, but the count falls by one: two rows that
-// share an entry leave an empty row at the end.
+// share an entry leave an empty row at the end. An entry that no row has (a record without an
+// instance) leaves one row too many for the new count, a failure that ends the console.
 void ServersForm::cmdDelete_Click()
 {
     if (lstServer->ListIndex() < 0)
@@ -116,18 +118,24 @@ void ServersForm::cmdDelete_Click()
     Hourglass::set(true);
     const QString deleted = Text::Trim(lstServer->Text());
     lstServer->RemoveItem(lstServer->ListIndex());
-    TextTable kept;
-    kept.redim(ServerCount - 1, ServerColumn::Last);
-    int next = 1;
-    for (int row = 1; row <= ServerCount; ++row) {
-        if (ServerRowEntry(ServerTable, row) == deleted)
-            continue;
-        PutRecordInRow(RecordFromRow(ServerTable, row), kept, next++);
+    try {
+        TextTable kept;
+        kept.redim(ServerCount - 1, ServerColumn::Last);
+        int next = 1;
+        for (int row = 1; row <= ServerCount; ++row) {
+            if (ServerRowEntry(ServerTable, row) != deleted)
+                PutRecordInRow(RecordFromRow(ServerTable, row), kept, next++);
+        }
+        --ServerCount;
+        ServerTable.redim(ServerCount, ServerColumn::Last);
+        for (int row = 1; row <= ServerCount; ++row)
+            PutRecordInRow(RecordFromRow(kept, row), ServerTable, row);
+    } catch (RuntimeError& error) {
+        error.Context
+            = QStringLiteral("Deleting \"%1\" from the server list failed: %2.\nThe server file was not changed.")
+                  .arg(deleted, error.Context);
+        throw;
     }
-    --ServerCount;
-    ServerTable.redim(ServerCount, ServerColumn::Last);
-    for (int row = 1; row <= ServerCount; ++row)
-        PutRecordInRow(RecordFromRow(kept, row), ServerTable, row);
     Hourglass::set(false);
 }
 

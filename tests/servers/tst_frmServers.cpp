@@ -94,11 +94,26 @@ private slots:
             frmServers->cmdOK->Click.raise();
         }
         QCOMPARE(m_console.exitStatuses, QList<int> { 1 });
+        m_console.exitStatuses.clear();
         QCOMPARE(m_boxes.texts(),
             QStringList { QStringLiteral("Run-time error '70': Permission denied\n\nSaving the server list failed: "
                                          "Copying %1 to %2.\nThe server file was not changed.")
                               .arg(m_path, m_backup) });
         QCOMPARE(readBytes(m_path), Sap1 + Sap1OtherClient + Sap2);
+    }
+
+    // A short last record has no instance: no row has its trimmed entry, and the table can't shrink.
+    void deleteOfARecordCutShortEndsTheConsole()
+    {
+        writeBytes(m_path, Sap2 + serverRecord("sap3.corp").left(100));
+        frmServers->cmdCancel_Click();
+        frmServers->lstServer->SetListIndex(1);
+        frmServers->cmdDelete->Click.raise();
+        QCOMPARE(m_console.exitStatuses, QList<int> { 1 });
+        QVERIFY(
+            m_boxes.texts().value(0).startsWith(QStringLiteral("Run-time error '9': Subscript out of range\n\n"
+                                                               "Deleting \"sap3.corp\" from the server list failed")));
+        QCOMPARE(readBytes(m_path).size(), 183 + 100);
     }
 
 private:
