@@ -141,7 +141,7 @@ void ServersForm::cmdDelete_Click()
 
 void ServersForm::chkNetwork_Click()
 {
-    // ServerListOrigin is only ever empty; the comparison stays as the other readers expect it
+    // ServerListOrigin is only ever empty: ticking the box always opens the location page
     if (chkNetwork->Value() == 1 && ServerListOrigin != QLatin1String("frmServers.activate")) {
         frmGetServerFile->Show();
         return;
