@@ -32,9 +32,18 @@ QString RTrim(const QString& text)
     return text.left(end);
 }
 
+// One copy at most, none for a text without outer blanks: lists of thousands of fields are trimmed.
 QString Trim(const QString& text)
 {
-    return LTrim(RTrim(text));
+    qsizetype first = 0;
+    qsizetype end = text.size();
+    while (end > 0 && text.at(end - 1) == Blank)
+        --end;
+    while (first < end && text.at(first) == Blank)
+        ++first;
+    if (first == 0 && end == text.size())
+        return text;
+    return text.mid(first, end - first);
 }
 
 QString Left(const QString& text, qsizetype length)

@@ -11,6 +11,7 @@
 #include "platform/forms/text_box.h"
 #include "product_art.h"
 #include "repository/data_source.h"
+#include "servers/server_lists.h"
 #include "settings/registry_values.h"
 #include "shared_state.h"
 
@@ -106,7 +107,8 @@ void CurrentConfigForm::clearSources()
 void CurrentConfigForm::loadSources()
 {
     LoadDataSource(Name());
-    // LoadServerFile comes second: besides lstServers it fills ServerTable at start-up.
+    // this load is also what fills ServerTable at start-up
+    LoadServerFile(Name());
     LoadProgsToIgnore(Name());
     LoadIDsToIgnore(Name());
     LoadTransToIgnore(Name());

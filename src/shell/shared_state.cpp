@@ -10,6 +10,7 @@ QString MsgTitle;
 
 TextTable ServerTable;
 qint16 ServerCount = 0;
+ServerRecordBuffer ServerRecord;
 QString ServerFilePath;
 QString ServerListOrigin;
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "servers/server_record.h"
 #include "sla/group_records.h"
 #include "text_table.h"
 
@@ -28,6 +29,8 @@ extern QString MsgTitle;
 // The target servers: row i is server i, columns 1 to 9; row 0 and column 0 stay unused.
 extern TextTable ServerTable;
 extern qint16 ServerCount;
+// One record of the server file while it passes between file and table.
+extern ServerRecordBuffer ServerRecord;
 // The server file picked on the network page; empty means the path held in StatiInput.
 extern QString ServerFilePath;
 // Only ever set to empty.

@@ -2,6 +2,8 @@
 
 #include "shell/page_form.h"
 
+class ListBox;
+
 class SpecRunForm : public PageForm
 {
     Q_OBJECT
@@ -10,6 +12,9 @@ public:
     SpecRunForm();
 
     void Form_Activate() override;
+
+    ListBox* lstServers; // available servers, as entries
+    ListBox* lstSvrsToAgg; // servers of the run
 };
 
 extern FormRef<SpecRunForm> frmSpecRun;

@@ -13,6 +13,8 @@ private slots:
         QCOMPARE(Text::LTrim("  a "), "a ");
         QCOMPARE(Text::RTrim("  a "), "  a");
         QCOMPARE(Text::Trim(QStringLiteral("\t\u00A0x\t ")), QStringLiteral("\t\u00A0x\t"));
+        QCOMPARE(Text::Trim(QStringLiteral("  a b  ")), QStringLiteral("a b"));
+        QCOMPARE(Text::Trim(QStringLiteral("   ")), QString());
     }
 
     void slicesClampAsClassic()

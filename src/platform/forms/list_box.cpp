@@ -74,12 +74,27 @@ void ListBox::AddItem(const QString& text, int index)
     insertItem(at, text);
 }
 
+void ListBox::AddItems(const QStringList& texts)
+{
+    if (m_sorted) {
+        for (const QString& text : texts)
+            AddItem(text);
+        return;
+    }
+    const QSignalBlocker blocker(this);
+    insertItems(count(), texts);
+}
+
 void ListBox::RemoveItem(int index)
 {
     if (index < 0 || index >= count())
         throw RuntimeError(RuntimeError::InvalidProcedureCall, QStringLiteral("Removing from %1").arg(Name()));
+    const bool wasSelected = index == ListIndex();
     const QSignalBlocker blocker(this);
     delete takeItem(index);
+    // the view would select the row that moved into the place
+    if (wasSelected)
+        clearSelection();
 }
 
 void ListBox::Clear()

@@ -25,6 +25,8 @@ public:
     // A sorted list puts an added item in ascending place, comparing without regard to case; equal
     // items keep the order they came in.
     void AddItem(const QString& text, int index = -1);
+    // The same as adding each at the end in turn, in one step.
+    void AddItems(const QStringList& texts);
     void RemoveItem(int index);
     void Clear();
     bool Sorted() const { return m_sorted; }

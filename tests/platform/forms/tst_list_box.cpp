@@ -23,8 +23,10 @@ private slots:
     {
         m_list->AddItem(QStringLiteral("b"));
         m_list->AddItem(QStringLiteral("a"));
+        m_list->AddItems({ QStringLiteral("c"), QStringLiteral("d") });
         QCOMPARE(m_list->ListIndex(), -1);
-        QCOMPARE(m_list->ListCount(), 2);
+        QCOMPARE(m_list->ListCount(), 4);
+        QCOMPARE(m_list->List(3), QStringLiteral("d"));
         QCOMPARE(m_list->List(0), QStringLiteral("b"));
         QCOMPARE(m_list->List(5), QString());
         QCOMPARE(m_clicks, 0);
@@ -70,12 +72,16 @@ private slots:
         QCOMPARE(items, QStringList({ "alpha", "Bravo", "BRAVO", "bravo", "charlie", "delta", "echo", "Zulu" }));
     }
 
+    // Removing the selected row leaves no selection, not the row that took its place.
     void removeAndClearDoNotClick()
     {
-        m_list->AddItem(QStringLiteral("one"));
-        m_list->AddItem(QStringLiteral("two"));
-        m_list->SetListIndex(0);
+        for (const char* text : { "one", "two", "three" })
+            m_list->AddItem(QString::fromLatin1(text));
+        m_list->SetListIndex(1);
         m_list->RemoveItem(0);
+        QCOMPARE(m_list->Text(), QStringLiteral("two"));
+        m_list->RemoveItem(0);
+        QCOMPARE(m_list->ListIndex(), -1);
         m_list->Clear();
         QCOMPARE(m_clicks, 1);
         QCOMPARE(m_list->ListIndex(), -1);
