@@ -3,6 +3,7 @@
 #include "platform/support/file_locker.h"
 #include "server_files.h"
 #include "servers/frmServers.h"
+#include "servers/server_lists.h"
 #include "settings/registry_values.h"
 #include "shell/frmCurrentConfig.h"
 #include "shell/shared_state.h"
@@ -39,6 +40,8 @@ private slots:
         writeBytes(m_path, Sap1 + Sap1OtherClient + Sap2);
         QFile::remove(m_backup);
         frmCurrentConfig->Show();
+        // the first page may still be the active one from the start, which a Show doesn't reload
+        LoadServerFile(QStringLiteral("frmCurrentConfig"));
         frmServers->Show();
         QCOMPARE(items(frmServers->lstServer).join(QLatin1Char('|')),
             QString::fromLatin1("sap1.corp 00|sap1.corp 00|s\xc3\xbc"
