@@ -19,14 +19,14 @@ void ShowRefusal(int id)
     ShowStatus(1453);
 }
 
-void ShowFailure(const RuntimeError& failure)
+void ShowFailure(const RuntimeError& failure, const QString& afterNumber)
 {
     LoadMsgText(1402);
     const QString encountered = MsgText;
     LoadMsgText(1403);
     const QString number = MsgText;
     LoadMsgTitle(1452);
-    MsgBox(encountered + failure.Description + QStringLiteral(" , ") + number + QString::number(failure.Number),
+    MsgBox(encountered + failure.Description + QStringLiteral(" , ") + number + QString::number(failure.Number) + afterNumber,
         MsgBoxFlags::OkOnly, MsgTitle);
     ShowStatus(1453);
 }
