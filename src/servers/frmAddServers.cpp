@@ -16,6 +16,7 @@
 #include "shell/localize_form.h"
 #include "shell/navigation.h"
 #include "shell/page_controls.h"
+#include "shell/message_boxes.h"
 #include "shell/page_frame.h"
 #include "shell/shared_state.h"
 
@@ -34,7 +35,7 @@ constexpr int FieldHeight = 315;
 
 bool refuse(int messageId, TextBox* field)
 {
-    ShowMessage(messageId);
+    ShowMessageBox(messageId);
     if (field)
         SelectFieldText(field);
     return false;
@@ -180,7 +181,7 @@ void AddServersForm::cmdOK_Click()
     const bool editing = !txtIndex->Text().isEmpty();
     const qint16 edited = editing ? Numeric::toInt16(txtIndex->Text()) : qint16(0);
     if (!CheckForDups(edited)) {
-        ShowMessage(1427);
+        ShowMessageBox(1427);
         ShowStatus(1453);
         return;
     }

@@ -12,6 +12,7 @@
 #include "shell/localize_form.h"
 #include "shell/navigation.h"
 #include "shell/page_controls.h"
+#include "shell/message_boxes.h"
 #include "shell/page_frame.h"
 #include "shell/shared_state.h"
 
@@ -70,7 +71,7 @@ void GetServerFileForm::cmdOK_Click()
     ServerFilePath.clear();
     const QString name = fileFileList->FileName();
     if (Text::UCase(name) != QLatin1String("QD7SERVER.DAT")) {
-        ShowMessage(1504);
+        ShowMessageBox(1504);
         ShowStatus(1453);
         return;
     }

@@ -10,6 +10,7 @@
 #include "server_record.h"
 #include "settings/registry_values.h"
 #include "shell/frmCurrentConfig.h"
+#include "shell/message_boxes.h"
 #include "shell/page_frame.h"
 #include "shell/shared_state.h"
 #include "specialrun/frmSpecRun.h"
@@ -99,7 +100,7 @@ void reportHeldFile(const QString& caller)
 {
     WaitForSeconds(1);
     if (caller != StartPageCaller)
-        ShowMessage(1437);
+        ShowMessageBox(1437);
     ShowStatus(1446);
     // the page must not be used on a table that was not read
     frmServers->lstServer->SetEnabled(false);

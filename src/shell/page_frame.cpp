@@ -8,7 +8,6 @@
 #include "platform/forms/do_events.h"
 #include "platform/forms/label.h"
 #include "platform/forms/list_box.h"
-#include "platform/forms/msg_box.h"
 #include "platform/forms/text_box.h"
 #include "shared_state.h"
 
@@ -68,11 +67,4 @@ void ShowStatus(int id)
 {
     LoadMsgText(id);
     ShowStatusText(MsgText);
-}
-
-void ShowMessage(int id)
-{
-    LoadMsgText(id);
-    LoadMsgTitle(1452);
-    MsgBox(MsgText, MsgBoxFlags::OkOnly, MsgTitle);
 }

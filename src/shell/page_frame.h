@@ -34,6 +34,3 @@ void SetListExtent(ListBox* List);
 
 // The status bar, from a catalogue id.
 void ShowStatus(int id);
-
-// A message box with the text of a catalogue id under the product title (id 1452), no icon, OK.
-void ShowMessage(int id);
