@@ -105,11 +105,7 @@ TextBox* AddServersForm::addField(const QString& name, int maxLength, int top, i
     auto* field = new TextBox(this, name);
     field->SetMaxLength(maxLength);
     field->Move(FieldLeft, top, width, FieldHeight);
-    // GotFocus comes posted: one that arrives after the focus moved on would pull it back
-    field->GotFocus.connect([field] {
-        if (QApplication::focusWidget() == field)
-            SelectFieldText(field);
-    });
+    field->GotFocus.connect([field] { SelectFieldText(field); });
     return field;
 }
 

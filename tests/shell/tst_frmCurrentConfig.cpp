@@ -20,6 +20,9 @@ private slots:
     {
         StartConsole(QStringLiteral("qd7console -D"));
         QTRY_VERIFY_WITH_TIMEOUT(ConsoleFixture::shown(QStringLiteral("frmCurrentConfig")), 10000);
+        // focus moves only count in the active window; on a busy machine it may come late
+        MDIMainForm->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(MDIMainForm));
     }
 
     void followsTheSourcesOnDisk_data()

@@ -1,28 +1,8 @@
 #include "specialrun/collector_window.h"
 
-#include <QApplication>
-#include <QProcess>
+#include "specialrun/stand_in.h"
+
 #include <QTest>
-
-// A child shell whose command line carries `title` stands in for a program's window.
-class StandIn
-{
-public:
-    explicit StandIn(const QString& title)
-    {
-        // the trailing ":" keeps the shell from replacing itself with the read
-        m_process.start(QStringLiteral("/bin/sh"), { QStringLiteral("-c"), QStringLiteral("read line; :"), title });
-        m_process.waitForStarted();
-    }
-    ~StandIn()
-    {
-        m_process.closeWriteChannel();
-        m_process.waitForFinished();
-    }
-
-private:
-    QProcess m_process;
-};
 
 class TestCollectorWindow : public QObject
 {

@@ -38,6 +38,11 @@ public:
                 Control* control = guard ? controlOf(guard) : nullptr;
                 if (!control)
                     return;
+                // a GotFocus the focus has already left behind is dropped: its handler would take
+                // the focus back, and two such fields would pull it to and fro for ever
+                auto* widget = qobject_cast<QWidget*>(guard.data());
+                if (in && widget && !widget->hasFocus())
+                    return;
                 if (in)
                     control->GotFocus.raise();
                 else
