@@ -47,14 +47,14 @@ SpecRunForm::SpecRunForm()
 {
     lblTitle = AddPageTitle(this, QStringLiteral("lblTitle"), 1136);
     imgLogo = AddPageLogo(this);
-    lblStartDate = AddLabel(this, QStringLiteral("lblStartDate"), 1355, 480, 840, 2055, 255);
+    lblStartDate = AddLabel(this, QStringLiteral("lblStartDate"), 1355, 480, 840, 2295, 255);
     txtStartDate = addEntryField(this, QStringLiteral("txtStartDate"), 8, 480, 1080, 1335);
-    lblStartTime = AddLabel(this, QStringLiteral("lblStartTime"), 1356, 2640, 840, 2055, 255);
-    txtStartTime = addEntryField(this, QStringLiteral("txtStartTime"), 6, 2640, 1080, 1095);
-    lblEndDate = AddLabel(this, QStringLiteral("lblEndDate"), 1357, 480, 1440, 2055, 255);
+    lblStartTime = AddLabel(this, QStringLiteral("lblStartTime"), 1356, 2880, 840, 2655, 255);
+    txtStartTime = addEntryField(this, QStringLiteral("txtStartTime"), 6, 2880, 1080, 1095);
+    lblEndDate = AddLabel(this, QStringLiteral("lblEndDate"), 1357, 480, 1440, 2295, 255);
     txtEndDate = addEntryField(this, QStringLiteral("txtEndDate"), 8, 480, 1680, 1335);
-    lblEndTime = AddLabel(this, QStringLiteral("lblEndTime"), 1358, 2640, 1440, 2055, 255);
-    txtEndTime = addEntryField(this, QStringLiteral("txtEndTime"), 6, 2640, 1680, 1095);
+    lblEndTime = AddLabel(this, QStringLiteral("lblEndTime"), 1358, 2880, 1440, 2655, 255);
+    txtEndTime = addEntryField(this, QStringLiteral("txtEndTime"), 6, 2880, 1680, 1095);
     lblServerSelection = AddLabel(this, QStringLiteral("lblServerSelection"), 1359, 480, 2160, 2175, 255);
     lstServers = new ListBox(this, QStringLiteral("lstServers"));
     lstServers->Move(480, 2400, 2175, 1695);
@@ -69,6 +69,13 @@ SpecRunForm::SpecRunForm()
     cmdCancel = AddButton(this, QStringLiteral("cmdCancel"), 1201, 4500, 4320, 1035, 375);
     lblStatus = new Label(this, QStringLiteral("lblStatus"));
     lblStatus->Move(480, 4380, 2775, 255);
+    // the access keys of the captions lead to the fields they name
+    lblStartDate->setBuddy(txtStartDate);
+    lblStartTime->setBuddy(txtStartTime);
+    lblEndDate->setBuddy(txtEndDate);
+    lblEndTime->setBuddy(txtEndTime);
+    lblServerSelection->setBuddy(lstServers);
+    lblSelectedServers->setBuddy(lstSvrsToAgg);
 
     cmdOK->Click.connect(this, &SpecRunForm::cmdOK_Click);
     cmdCancel->Click.connect(this, &SpecRunForm::cmdCancel_Click);
