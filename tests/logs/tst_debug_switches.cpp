@@ -27,8 +27,7 @@ class TestDebugSwitches : public QObject
 private slots:
     void initTestCase()
     {
-        StartConsole(QStringLiteral("qd7console -D"));
-        QTRY_VERIFY_WITH_TIMEOUT(ConsoleFixture::shown(QStringLiteral("frmCurrentConfig")), 10000);
+        QVERIFY(ConsoleFixture::startWithFirstPage());
     }
 
     void marks_data()

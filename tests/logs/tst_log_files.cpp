@@ -18,8 +18,7 @@ private slots:
     {
         QVERIFY(writeRecordingScript(m_viewer));
         qputenv("QD7_TEXT_VIEWER", QFile::encodeName(m_viewer));
-        StartConsole(QStringLiteral("qd7console -D"));
-        QTRY_VERIFY_WITH_TIMEOUT(ConsoleFixture::shown(QStringLiteral("frmCurrentConfig")), 10000);
+        QVERIFY(ConsoleFixture::startWithFirstPage());
         // a blank in the installation path: the path still reaches the viewer as one argument
         BinDir = m_console.dir.path() + QStringLiteral("/opt orvanta");
         QVERIFY(QDir().mkpath(BinDir));

@@ -68,8 +68,7 @@ private slots:
     void initTestCase()
     {
         qputenv("PATH", QFile::encodeName(m_console.binDir + QLatin1Char(':')));
-        StartConsole(QStringLiteral("qd7console -D"));
-        QTRY_VERIFY_WITH_TIMEOUT(ConsoleFixture::shown(QStringLiteral("frmCurrentConfig")), 10000);
+        QVERIFY(ConsoleFixture::startWithFirstPage());
         frmDataSource->Show();
     }
 

@@ -31,8 +31,7 @@ class TestFrmAddServers : public QObject
 private slots:
     void initTestCase()
     {
-        StartConsole(QStringLiteral("qd7console -D"));
-        QTRY_VERIFY_WITH_TIMEOUT(ConsoleFixture::shown(QStringLiteral("frmCurrentConfig")), 10000);
+        QVERIFY(ConsoleFixture::startWithFirstPage());
         m_path = m_console.binDir + QStringLiteral("/qd7server.dat");
         ConsoleFixture::setValue("StatiInput", m_path);
         MDIMainForm->activateWindow();

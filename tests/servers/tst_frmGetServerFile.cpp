@@ -18,8 +18,7 @@ class TestFrmGetServerFile : public QObject
 private slots:
     void initTestCase()
     {
-        StartConsole(QStringLiteral("qd7console -D"));
-        QTRY_VERIFY_WITH_TIMEOUT(ConsoleFixture::shown(QStringLiteral("frmCurrentConfig")), 10000);
+        QVERIFY(ConsoleFixture::startWithFirstPage());
         m_default = m_console.binDir + QStringLiteral("/qd7server.dat");
         ConsoleFixture::setValue("StatiInput", m_default);
         writeBytes(m_default, serverRecord("sap1.corp"));

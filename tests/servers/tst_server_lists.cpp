@@ -29,8 +29,7 @@ class TestServerLists : public QObject
 private slots:
     void initTestCase()
     {
-        StartConsole(QStringLiteral("qd7console -D"));
-        QTRY_VERIFY_WITH_TIMEOUT(ConsoleFixture::shown(QStringLiteral("frmCurrentConfig")), 10000);
+        QVERIFY(ConsoleFixture::startWithFirstPage());
         m_path = m_console.binDir + QStringLiteral("/qd7server.dat");
     }
 

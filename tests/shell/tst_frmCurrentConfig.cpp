@@ -18,8 +18,7 @@ class TestCurrentConfig : public QObject
 private slots:
     void initTestCase()
     {
-        StartConsole(QStringLiteral("qd7console -D"));
-        QTRY_VERIFY_WITH_TIMEOUT(ConsoleFixture::shown(QStringLiteral("frmCurrentConfig")), 10000);
+        QVERIFY(ConsoleFixture::startWithFirstPage());
         // focus moves only count in the active window; on a busy machine it may come late
         MDIMainForm->activateWindow();
         QVERIFY(QTest::qWaitForWindowActive(MDIMainForm));

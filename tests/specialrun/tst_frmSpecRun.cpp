@@ -32,8 +32,7 @@ private slots:
     {
         m_serverFile = m_console.binDir + QStringLiteral("/qd7server.dat");
         ConsoleFixture::setValue("StatiInput", m_serverFile);
-        StartConsole(QStringLiteral("qd7console -D"));
-        QTRY_VERIFY_WITH_TIMEOUT(ConsoleFixture::shown(QStringLiteral("frmCurrentConfig")), 10000);
+        QVERIFY(ConsoleFixture::startWithFirstPage());
         MDIMainForm->activateWindow();
         QVERIFY(QTest::qWaitForWindowActive(MDIMainForm));
         m_listFile = m_console.binDir + QStringLiteral("/qd7SpecRunServList.dat");

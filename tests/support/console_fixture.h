@@ -28,6 +28,14 @@ public:
     ConsoleFixture(const ConsoleFixture&) = delete;
     ConsoleFixture& operator=(const ConsoleFixture&) = delete;
 
+    // Starts the console with "-D" in this process and waits for its first page; call it as
+    // QVERIFY(ConsoleFixture::startWithFirstPage()).
+    static bool startWithFirstPage()
+    {
+        StartConsole(QStringLiteral("qd7console -D"));
+        return QTest::qWaitFor([] { return shown(QStringLiteral("frmCurrentConfig")); }, 10000);
+    }
+
     static void setValue(const char* name, const QString& value)
     {
         QByteArray buffer(255, ' ');
