@@ -1,23 +1,34 @@
 #include "single_instance.h"
 
 #include <QDir>
-#include <QLockFile>
+#include <QFile>
 #include <QStandardPaths>
 
-#include <memory>
+#include <cerrno>
+#include <fcntl.h>
+#include <sys/file.h>
+#include <unistd.h>
 
+// An flock on an open file rather than a QLockFile: the kernel lets go of it when the owner dies,
+// so no stale lock needs judging, and taking it costs no flush to disk on every start.
 bool earlierInstanceRunning()
 {
-    static std::unique_ptr<QLockFile> lock;
-    if (lock && lock->isLocked())
+    static int heldLock = -1;
+    if (heldLock >= 0)
         return false;
 
     const QString directory = QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);
     if (directory.isEmpty())
         return false; // no place to ask: better two consoles than none
-    lock = std::make_unique<QLockFile>(QDir(directory).filePath(QStringLiteral("qd7console.lock")));
-    lock->setStaleLockTime(0); // only a dead owner makes a lock stale, never its age
-    if (lock->tryLock(0))
+    const QByteArray path = QFile::encodeName(QDir(directory).filePath(QStringLiteral("qd7console.lock")));
+    const int lock = ::open(path.constData(), O_RDWR | O_CREAT | O_CLOEXEC, 0600);
+    if (lock < 0)
         return false;
-    return lock->error() == QLockFile::LockFailedError;
+    if (::flock(lock, LOCK_EX | LOCK_NB) == 0) {
+        heldLock = lock; // kept open, and so held, for the life of the process
+        return false;
+    }
+    const bool held = errno == EWOULDBLOCK;
+    ::close(lock);
+    return held;
 }

@@ -1,7 +1,7 @@
 #pragma once
 
-// True when another live process of the console holds the instance lock, a QLockFile named
+// True when another live process of the console holds the instance lock, an exclusive flock on
 // qd7console.lock in the user's runtime directory. The first call takes the lock and keeps it for
-// the life of the process, so later calls in the same process are false. A lock left by a process
-// that has died doesn't count.
+// the life of the process, so later calls in the same process are false. A process that has died
+// holds nothing, whatever file it left.
 bool earlierInstanceRunning();

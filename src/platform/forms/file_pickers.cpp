@@ -12,7 +12,17 @@ DriveListBox::DriveListBox(QWidget* parent, const QString& name)
     : QComboBox(parent)
     , Control(this, this, parent, QStringLiteral("DriveListBox"), name)
 {
-    QStringList roots;
+    connect(this, &QComboBox::activated, this, [this] { Change.raiseFromQt(); });
+}
+
+// Asking for the mounted file systems costs more than making the whole page, and the page is
+// made hidden at every start: the list fills when it is first shown or asked.
+void DriveListBox::fillRoots()
+{
+    if (m_filled)
+        return;
+    m_filled = true;
+    QStringList roots { QStringLiteral("/") }; // a chroot's root need not be a mount of its own
     for (const QStorageInfo& volume : QStorageInfo::mountedVolumes()) {
         if (volume.isValid() && volume.isReady())
             roots << volume.rootPath();
@@ -22,11 +32,29 @@ DriveListBox::DriveListBox(QWidget* parent, const QString& name)
     const QSignalBlocker blocker(this);
     addItems(roots);
     setCurrentIndex(int(roots.indexOf(QStringLiteral("/"))));
-    connect(this, &QComboBox::activated, this, [this] { Change.raiseFromQt(); });
+}
+
+QString DriveListBox::Drive()
+{
+    fillRoots();
+    return currentText();
+}
+
+void DriveListBox::showEvent(QShowEvent* event)
+{
+    fillRoots();
+    QComboBox::showEvent(event);
+}
+
+void DriveListBox::showPopup()
+{
+    fillRoots();
+    QComboBox::showPopup();
 }
 
 void DriveListBox::SetDrive(const QString& drive)
 {
+    fillRoots();
     const int found = findText(drive);
     if (found < 0 || found == currentIndex())
         return;
@@ -52,7 +80,22 @@ DirListBox::DirListBox(QWidget* parent, const QString& name)
         }
     });
     m_path = QDir::rootPath();
-    rebuild();
+}
+
+// Like the drive list, the tree is made when it is first seen, not with its hidden page.
+void DirListBox::showEvent(QShowEvent* event)
+{
+    if (m_stale)
+        rebuild();
+    QTreeWidget::showEvent(event);
+}
+
+void DirListBox::rebuildWhenSeen()
+{
+    if (isVisible())
+        rebuild();
+    else
+        m_stale = true;
 }
 
 void DirListBox::SetPath(const QString& path)
@@ -61,12 +104,13 @@ void DirListBox::SetPath(const QString& path)
     if (cleaned == m_path || !QFileInfo(cleaned).isDir())
         return;
     m_path = cleaned;
-    rebuild();
+    rebuildWhenSeen();
     Change.raise();
 }
 
 void DirListBox::rebuild()
 {
+    m_stale = false;
     const QSignalBlocker blocker(this);
     clear();
     QStringList chain;

@@ -16,10 +16,19 @@ class DriveListBox : public QComboBox, public Control
 public:
     DriveListBox(QWidget* parent, const QString& name);
 
-    QString Drive() const { return currentText(); }
+    QString Drive();
     void SetDrive(const QString& drive);
 
     Event<> Change;
+
+protected:
+    void showEvent(QShowEvent* event) override;
+    void showPopup() override;
+
+private:
+    void fillRoots();
+
+    bool m_filled = false;
 };
 
 // The folders from the root down to Path, and Path's subfolders.
@@ -35,10 +44,15 @@ public:
 
     Event<> Change;
 
+protected:
+    void showEvent(QShowEvent* event) override;
+
 private:
     void rebuild();
+    void rebuildWhenSeen();
 
     QString m_path;
+    bool m_stale = true;
 };
 
 // The files of Path whose names match Pattern ("*.dat", or a full name), sorted.
