@@ -9,6 +9,7 @@
 namespace {
 
 constexpr int MaxRecordLength = 32767;
+constexpr int BlockLength = 64 * 1024;
 
 void checkRecordLength(int recordLength, const QString& name)
 {
@@ -38,27 +39,56 @@ RecordFile::RecordFile(std::unique_ptr<FileDevice> device, int recordLength, con
 
 RecordFile::~RecordFile() = default;
 
+// Records are read in blocks: a load reads every record in turn, and a system call or two per
+// record would cost more than all the rest. Other programs change these files only under an
+// exclusive lock, which the shared lock held here keeps out, so a block stays true while the file
+// is open; writes through this object drop it.
 QByteArray RecordFile::read(qint64 number)
 {
-    FileDevice& file = device("Reading");
-    seekRecord(number, "Reading");
-    QByteArray bytes(m_recordLength, Qt::Uninitialized);
+    device("Reading");
+    const qint64 maxNumber = std::numeric_limits<qint64>::max() / m_recordLength;
+    const qint64 start = number >= 1 && number <= maxNumber ? (number - 1) * m_recordLength : -1;
+    const qint64 aheadEnd = m_aheadStart + m_ahead.size();
+    const bool held = start >= m_aheadStart && !m_ahead.isEmpty()
+        && (start + m_recordLength <= aheadEnd || (m_aheadToEnd && start <= aheadEnd));
+    if (!held) {
+        seekRecord(number, "Reading");
+        readAhead(start);
+    }
+    return m_ahead.mid(start - m_aheadStart, m_recordLength);
+}
+
+void RecordFile::readAhead(qint64 start)
+{
+    FileDevice& file = *m_device;
+    const qint64 blockLength = qMax(1, BlockLength / m_recordLength) * qint64(m_recordLength);
+    m_ahead.resize(blockLength);
+    m_aheadStart = start;
     qint64 got = 0;
-    while (got < m_recordLength) {
-        const qint64 part = file.read(bytes.data() + got, m_recordLength - got);
-        if (part < 0)
-            throwFileError(file.lastError() != 0 ? file.lastError() : EIO, m_name, context("Reading"));
+    bool faulted = false;
+    while (got < blockLength) {
+        const qint64 part = file.read(m_ahead.data() + got, blockLength - got);
+        if (part < 0) {
+            faulted = true;
+            break;
+        }
         if (part == 0)
             break;
         got += part;
     }
-    bytes.truncate(got);
-    return bytes;
+    // The records before a fault still count; the record that holds it fails.
+    if (faulted && got < m_recordLength) {
+        m_ahead.clear();
+        throwFileError(file.lastError() != 0 ? file.lastError() : EIO, m_name, context("Reading"));
+    }
+    m_aheadToEnd = !faulted && got < blockLength;
+    m_ahead.truncate(got);
 }
 
 void RecordFile::write(qint64 number, const QByteArray& bytes)
 {
     FileDevice& file = device("Writing");
+    m_ahead.clear();
     QByteArray record = bytes.left(m_recordLength);
     record.append(m_recordLength - record.size(), ' ');
     seekRecord(number, "Writing");
@@ -82,6 +112,7 @@ qint16 RecordFile::recordCount() const
 
 void RecordFile::close()
 {
+    m_ahead.clear();
     m_device.reset();
 }
 

@@ -43,9 +43,14 @@ public:
 private:
     FileDevice& device(const char* what) const;
     void seekRecord(qint64 number, const char* what);
+    void readAhead(qint64 start);
     QString context(const char* what) const;
 
     std::unique_ptr<FileDevice> m_device;
     int m_recordLength;
     QString m_name;
+    // The block read last, from byte m_aheadStart; m_aheadToEnd when it ends at the end of file.
+    QByteArray m_ahead;
+    qint64 m_aheadStart = 0;
+    bool m_aheadToEnd = false;
 };

@@ -1,4 +1,5 @@
 #include "platform/record_file.h"
+#include "platform/runtime_error.h"
 #include "support/failing_device.h"
 #include "support/failure_of.h"
 #include "support/file_locker.h"
@@ -14,6 +15,8 @@ class TestRecordFile : public QObject
 
 private slots:
     void layoutByteForByte();
+    void readsAcrossBlocks();
+    void readFaultKeepsTheRecordsBefore();
     void recordCountRounds_data();
     void recordCountRounds();
     void openFailures_data();
@@ -45,6 +48,44 @@ void TestRecordFile::layoutByteForByte()
     RecordFile records(file, 6, RecordFile::Access::Read);
     QCOMPARE(records.read(4), QByteArray("tail")); // a partial last record comes back short
     QCOMPARE(records.read(3), QByteArray("123456"));
+}
+
+// Records come from blocks read ahead: every record of a file longer than a block, whatever the
+// record length, comes back whole and in place; a write through the file is read back at once.
+void TestRecordFile::readsAcrossBlocks()
+{
+    const int recordLength = 183;
+    const int count = 1000;
+    QByteArray contents;
+    for (int n = 1; n <= count; ++n)
+        contents += QByteArray::number(n).leftJustified(recordLength, '.');
+    contents += "half";
+    auto device = std::make_unique<FailingDevice>(1 << 20, contents);
+    RecordFile records(std::move(device), recordLength, QStringLiteral("memory"));
+    for (int n = 1; n <= count; ++n) {
+        if (records.read(n) != contents.mid((n - 1) * recordLength, recordLength))
+            QFAIL(qPrintable(QStringLiteral("record %1").arg(n)));
+    }
+    QCOMPARE(records.read(count + 1), QByteArray("half"));
+    QCOMPARE(records.read(count + 2), QByteArray());
+    QCOMPARE(records.read(2).left(3), QByteArray("2.."));
+    records.write(3, "changed");
+    QCOMPARE(records.read(3), QByteArray("changed").leftJustified(recordLength, ' '));
+    records.write(count + 1, "whole");
+    QCOMPARE(records.read(count + 1), QByteArray("whole").leftJustified(recordLength, ' '));
+    QCOMPARE(failureOf([&] { records.read(0); }).Number, 63);
+}
+
+// A fault in the middle of the file: the records before it are read, the one that holds it fails.
+void TestRecordFile::readFaultKeepsTheRecordsBefore()
+{
+    auto device = std::make_unique<FailingDevice>(0, QByteArray(10 * 4, 'r'));
+    device->setBadSectorAt(7 * 4 + 2);
+    RecordFile records(std::move(device), 4, QStringLiteral("/bad/disk.dat"));
+    for (int n = 1; n <= 7; ++n)
+        QCOMPARE(records.read(n), QByteArray("rrrr"));
+    QCOMPARE(failureOf([&] { records.read(8); }).Number, int(RuntimeError::PathFileAccessError));
+    QCOMPARE(records.read(2), QByteArray("rrrr"));
 }
 
 void TestRecordFile::recordCountRounds_data()

@@ -4,9 +4,11 @@
 
 #include <cerrno>
 #include <cstring>
+#include <limits>
 
 // A file in memory on a disk with room for `room` bytes: a write that doesn't fit stores what fits
-// and comes back short with ENOSPC, as a full disk does.
+// and comes back short with ENOSPC, as a full disk does. A bad sector can be set too: reads stop
+// short of it, and a read that starts on it fails with EIO.
 class FailingDevice : public FileDevice
 {
 public:
@@ -18,12 +20,17 @@ public:
     }
 
     const QByteArray& contents() const { return m_contents; }
+    void setBadSectorAt(qint64 offset) { m_badSector = offset; }
     qint64 size() const override { return m_contents.size(); }
 
 protected:
     qint64 readData(char* data, qint64 maxSize) override
     {
-        const qint64 count = qBound(qint64(0), m_contents.size() - pos(), maxSize);
+        if (pos() >= m_badSector) {
+            setLastError(EIO);
+            return -1;
+        }
+        const qint64 count = qBound(qint64(0), qMin(m_contents.size(), m_badSector) - pos(), maxSize);
         std::memcpy(data, m_contents.constData() + pos(), size_t(count));
         return count;
     }
@@ -45,4 +52,5 @@ protected:
 private:
     QByteArray m_contents;
     qint64 m_room;
+    qint64 m_badSector = std::numeric_limits<qint64>::max();
 };
