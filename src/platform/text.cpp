@@ -103,7 +103,7 @@ QByteArray toLatin1Bytes(const QString& text)
     return text.toLatin1();
 }
 
-QString fromLatin1Bytes(const QByteArray& bytes)
+QString fromLatin1Bytes(QByteArrayView bytes)
 {
     return QString::fromLatin1(bytes);
 }
