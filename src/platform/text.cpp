@@ -16,34 +16,47 @@ void requireNonNegative(qsizetype value)
 
 namespace Text {
 
-QString LTrim(const QString& text)
+namespace {
+
+qsizetype leadingBlanks(QStringView text)
 {
     qsizetype first = 0;
     while (first < text.size() && text.at(first) == Blank)
         ++first;
-    return text.mid(first);
+    return first;
 }
 
-QString RTrim(const QString& text)
+qsizetype endWithoutTrailingBlanks(QStringView text)
 {
     qsizetype end = text.size();
     while (end > 0 && text.at(end - 1) == Blank)
         --end;
-    return text.left(end);
+    return end;
+}
+
+} // namespace
+
+QString LTrim(const QString& text)
+{
+    return text.mid(leadingBlanks(text));
+}
+
+QString RTrim(const QString& text)
+{
+    return text.left(endWithoutTrailingBlanks(text));
+}
+
+QStringView TrimView(QStringView text)
+{
+    const QStringView kept = text.first(endWithoutTrailingBlanks(text));
+    return kept.sliced(leadingBlanks(kept));
 }
 
 // One copy at most, none for a text without outer blanks: lists of thousands of fields are trimmed.
 QString Trim(const QString& text)
 {
-    qsizetype first = 0;
-    qsizetype end = text.size();
-    while (end > 0 && text.at(end - 1) == Blank)
-        --end;
-    while (first < end && text.at(first) == Blank)
-        ++first;
-    if (first == 0 && end == text.size())
-        return text;
-    return text.mid(first, end - first);
+    const QStringView trimmed = TrimView(text);
+    return trimmed.size() == text.size() ? text : trimmed.toString();
 }
 
 QString Left(const QString& text, qsizetype length)

@@ -10,6 +10,8 @@ namespace Text {
 
 // Remove blanks (U+0020) only: tabs and no-break spaces are data, not padding.
 QString Trim(const QString& text);
+// Trim without a copy, for texts built from several fields.
+QStringView TrimView(QStringView text);
 QString LTrim(const QString& text);
 QString RTrim(const QString& text);
 

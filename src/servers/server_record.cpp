@@ -73,7 +73,12 @@ ServerRecordBuffer RecordFromRow(const TextTable& table, int row)
 
 QString ServerEntry(const QString& server, const QString& instance)
 {
-    return Text::Trim(server) + QLatin1Char(' ') + Text::Trim(instance);
+    const QStringView name = Text::TrimView(server);
+    const QStringView number = Text::TrimView(instance);
+    QString entry;
+    entry.reserve(name.size() + 1 + number.size());
+    entry.append(name).append(QLatin1Char(' ')).append(number);
+    return entry;
 }
 
 QString ServerRowEntry(const TextTable& table, int row)
