@@ -4,35 +4,16 @@
 #include "platform/forms/list_box.h"
 #include "shell/main_status_bar.h"
 #include "shell/shared_state.h"
+#include "support/file_bytes.h"
 
-#include <QFile>
 #include <QStatusBar>
 #include <QTemporaryDir>
-#include <QTest>
-
-#include <memory>
-
-namespace {
 
 // Lines as a collector would write them, built by hand rather than by the code under test.
-QByteArray line(const QByteArray& entry, int width)
+static QByteArray line(const QByteArray& entry, int width)
 {
     return entry.leftJustified(width, ' ') + "\r\n";
 }
-
-QByteArray contents(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("<missing>");
-}
-
-void writeFile(const QString& path, const QByteArray& bytes)
-{
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
-}
-
-} // namespace
 
 // The exclusion files byte for byte: what a save writes and what the loads read back.
 class TestExclusionFiles : public QObject
@@ -43,8 +24,7 @@ private slots:
     void init()
     {
         SetMainStatusBar(&m_status);
-        m_dir.reset(new QTemporaryDir);
-        BinDir = m_dir->path();
+        BinDir = m_dir.path();
         m_status.showMessage(QStringLiteral("before"));
     }
 
@@ -60,7 +40,6 @@ private slots:
         QTest::newRow("Latin-1 upper-cased, beyond it ?")
             << 20 << QString::fromUtf8("s\u00e9\u00ff\u20ac") << QByteArray("S\xc9\xff?                \r\n");
     }
-
     void lines()
     {
         QFETCH(int, width);
@@ -70,7 +49,7 @@ private slots:
         ListBox list(nullptr, QStringLiteral("lstTest"));
         list.AddItem(entry);
         SaveExclusionList(file, &list);
-        QCOMPARE(contents(file.path()), bytes);
+        QCOMPARE(readBytes(file.path()), bytes);
         QCOMPARE(m_status.currentMessage(), QStringLiteral("KQM7052I Action successful"));
     }
 
@@ -90,12 +69,11 @@ private slots:
         QTest::newRow("bytes 0x80-0xFF")
             << line("\x80\xa0\xc4\xff", 12) << QStringList { QString::fromLatin1("\x80\xa0\xc4\xff") };
     }
-
     void read()
     {
         QFETCH(QByteArray, bytes);
         QFETCH(QStringList, entries);
-        writeFile(ExclusionFiles::IDs.path(), bytes);
+        writeBytes(ExclusionFiles::IDs.path(), bytes);
         QStringList read;
         ReadExclusionEntries(ExclusionFiles::IDs, [&read](const QString& entry) { read << entry; });
         QCOMPARE(read, entries);
@@ -104,25 +82,25 @@ private slots:
     void saveKeepsTheOldFileAsBackup()
     {
         const ExclusionFile& file = ExclusionFiles::Transactions;
-        writeFile(file.path(), line("SM04", 20));
+        writeBytes(file.path(), line("SM04", 20));
         ListBox* list = frmTransToIgnore->lstTransToIgnore;
         list->AddItem(QStringLiteral("zva01"));
         LoadTransToIgnore(QStringLiteral("frmTransToIgnore")); // appends, in sorted place
         SaveExclusionList(file, list);
-        QCOMPARE(contents(file.backupPath()), line("SM04", 20));
-        QCOMPARE(contents(file.path()), line("SM04", 20) + line("ZVA01", 20));
+        QCOMPARE(readBytes(file.backupPath()), line("SM04", 20));
+        QCOMPARE(readBytes(file.path()), line("SM04", 20) + line("ZVA01", 20));
         QCOMPARE(list->ListIndex(), 1); // each entry selected in turn
 
         list->Clear();
         m_status.showMessage(QStringLiteral("before"));
         SaveExclusionList(file, list);
         QVERIFY(!QFile::exists(file.path()));
-        QCOMPARE(contents(file.backupPath()), line("SM04", 20));
+        QCOMPARE(readBytes(file.backupPath()), line("SM04", 20));
         QCOMPARE(m_status.currentMessage(), QStringLiteral("before"));
     }
 
 private:
-    std::unique_ptr<QTemporaryDir> m_dir;
+    QTemporaryDir m_dir;
     QStatusBar m_status;
 };
 

@@ -1,14 +1,17 @@
 #include "platform/forms/menu_item.h"
 #include "platform/support/recording_script.h"
+#include "settings/registry_values.h"
 #include "shell/MDIMainForm.h"
 #include "shell/navigation.h"
 #include "shell/shared_state.h"
 #include "support/console_fixture.h"
 #include "support/msg_box_recorder.h"
 
+#include <QMenu>
 #include <QStatusBar>
 
-// The nine log commands open their file in the viewer, from the menu and from the tree alike.
+// The nine log commands open their file in the viewer, from the menu and from the tree alike; the debug
+// switches beside them.
 class TestLogFiles : public QObject
 {
     Q_OBJECT
@@ -42,7 +45,6 @@ private slots:
         QTest::newRow("8") << "mnuAggSnapLog" << "ndAggSnapLog" << "trace_qd7_agg_snap.log";
         QTest::newRow("9") << "mnuLoaderLog" << "ndLoaderLog" << "trace_qd7ldr.log";
     }
-
     void commands()
     {
         QFETCH(QString, item);
@@ -74,15 +76,46 @@ private slots:
         QVERIFY(!QFile::exists(m_args));
     }
 
-    // Starting the viewer has no failure path: a viewer that isn't there ends the console.
-    void missingViewerEndsTheConsole()
+    void marks_data()
     {
-        qputenv("QD7_TEXT_VIEWER", "/nonexistent/viewer");
-        QVERIFY(QFile(BinDir + QStringLiteral("/trace_qd7ldr.log")).open(QIODevice::WriteOnly));
-        m_boxes.calls.clear();
-        MDIMainForm->mnuLoaderLog->trigger();
-        QVERIFY(m_boxes.texts().value(0).startsWith(QLatin1String("Run-time error '53'")));
-        QCOMPARE(m_console.exitStatuses, QList<int> { 1 });
+        QTest::addColumn<QString>("SnapDebug"); // null: not stored
+        QTest::addColumn<QString>("LoadDebug");
+        QTest::addColumn<bool>("traceMark");
+        QTest::addColumn<bool>("haltMark");
+        QTest::newRow("True") << "True" << "True" << true << true;
+        QTest::newRow("true, TRUE") << "true" << "TRUE" << false << false;
+        QTest::newRow("missing") << QString() << QString() << false << false;
+        QTest::newRow("blank around") << "True " << " True" << false << false;
+    }
+    void marks()
+    {
+        QFETCH(bool, traceMark);
+        QFETCH(bool, haltMark);
+        ConsoleFixture::storeColumns({ "SnapDebug", "LoadDebug" });
+        ConsoleFixture::setValue("StatiDebug", QStringLiteral("True")); // never consulted for the mark
+        emit MDIMainForm->mnuOptions->menu()->aboutToShow();
+        QCOMPARE(MDIMainForm->mnuDebugLogFiles->Checked(), traceMark);
+        QCOMPARE(MDIMainForm->mnuLoaderHalt->Checked(), haltMark);
+    }
+
+    // A click goes by the check mark, not by the store: two clicks from SnapDebug "False" leave
+    // both trace values "False", whatever StatiDebug held; LoadDebug set meanwhile is set again.
+    void clicksWriteAtOnce()
+    {
+        ConsoleFixture::setValue("SnapDebug", QStringLiteral("False"));
+        ConsoleFixture::setValue("StatiDebug", QStringLiteral("True"));
+        DeleteRegistry("LoadDebug");
+        MDIMainForm->mnuOptions_Click();
+        ConsoleFixture::setValue("LoadDebug", QStringLiteral("True"));
+        QStringList seen;
+        for (int click = 0; click < 2; ++click) {
+            MDIMainForm->mnuDebugLogFiles->trigger();
+            MDIMainForm->mnuLoaderHalt->trigger();
+            for (const char* name : { "SnapDebug", "StatiDebug", "LoadDebug" })
+                seen << ReadRegValue(QString::fromLatin1(name));
+        }
+        QCOMPARE(seen, QStringList({ "True", "True", "True", "False", "False", "False" }));
+        QVERIFY(!MDIMainForm->mnuDebugLogFiles->Checked() && !MDIMainForm->mnuLoaderHalt->Checked());
     }
 
 private:

@@ -1,14 +1,11 @@
 #include "platform/forms/command_button.h"
 #include "platform/forms/option_button.h"
 #include "platform/forms/text_box.h"
-#include "platform/runtime_error.h"
 #include "repository/data_source.h"
 #include "repository/frmDataSource.h"
 #include "settings/credentials.h"
 #include "settings/registry_values.h"
 #include "shell/MDIMainForm.h"
-#include "shell/frmCurrentConfig.h"
-#include "shell/message_boxes.h"
 #include "support/console_fixture.h"
 #include "support/msg_box_recorder.h"
 
@@ -29,13 +26,6 @@ QStringList stored()
         values << ReadRegValue(QString::fromLatin1(name));
     QString access = ReadRegValue(QStringLiteral("Access"));
     return values << (access == QLatin1String("kept") ? access : DecryptText(access));
-}
-
-QString clientMissing(const char* id, const char* client, const char* program)
-{
-    return QStringLiteral("%1 Required file not found, %2 client component %3 not installed or is not in the path. "
-                          "Please refer to the release notes ")
-        .arg(QLatin1String(id), QLatin1String(client), QLatin1String(program));
 }
 
 QStringList setOptions()
@@ -84,39 +74,27 @@ private slots:
     {
         QTest::addColumn<QStringList>("options");
         QTest::addColumn<QString>("program");
-        QTest::addColumn<QString>("missing");
+        QTest::addColumn<QString>("missing"); // message, client, program named
         QTest::addColumn<QStringList>("written"); // DB, Oracle, INST
-
-        QTest::newRow("7.3") << QStringList { "optORA", "optORA73" } << "sqlldr73.exe"
-                             << clientMissing("KQM7064E", "Oracle", "sqlldr73.exe")
-                             << QStringList { "Oracle", "73", "kept" };
-        QTest::newRow("8.0") << QStringList { "optORA", "optORA80" } << "sqlldr80.exe"
-                             << clientMissing("KQM7065E", "Oracle", "sqlldr80.exe")
-                             << QStringList { "Oracle", "80", "kept" };
-        QTest::newRow("8.1") << QStringList { "optORA", "optORA81" } << "sqlldr.exe"
-                             << clientMissing("KQM7066E", "Oracle", "sqlldr.exe")
-                             << QStringList { "Oracle", "81", "kept" };
-        QTest::newRow("NVS") << QStringList { "optNVS" } << "nvscmd.exe"
-                             << clientMissing("KQM7037E", "NVS", "nvscmd.exe")
-                             << QStringList { "NVS", "kept", " Inst 2 " };
-        QTest::newRow("MSSQL") << QStringList { "optMSSQL" } << "ISQL.EXE"
-                               << clientMissing("KQM7067E", "MS Sql", "isql.exe")
-                               << QStringList { "MSSQL", "kept", "kept" };
-        QTest::newRow("Sybase") << QStringList { "optSybase" } << "ISQL.EXE"
-                                << clientMissing("KQM7068E", "Sybase", "isql.exe")
-                                << QStringList { "Sybase", "kept", "kept" };
-        QTest::newRow("Tessaril") << QStringList { "optTessaril" } << "SQLEDITOR300.EXE"
-                                  << clientMissing("KQM7069E", "Tessaril", "sqleditor300.exe")
-                                  << QStringList { "Tessaril", "kept", "kept" };
+        const auto row = [](const char* tag, const char* options, const char* program, const char* missing,
+                             const char* written) {
+            QTest::newRow(tag) << QString::fromLatin1(options).split(QLatin1Char(' ')) << QString::fromLatin1(program)
+                               << QString::fromLatin1(missing) << QString::fromLatin1(written).split(QLatin1Char('|'));
+        };
+        row("7.3", "optORA optORA73", "sqlldr73.exe", "KQM7064E|Oracle|sqlldr73.exe", "Oracle|73|kept");
+        row("8.0", "optORA optORA80", "sqlldr80.exe", "KQM7065E|Oracle|sqlldr80.exe", "Oracle|80|kept");
+        row("8.1", "optORA optORA81", "sqlldr.exe", "KQM7066E|Oracle|sqlldr.exe", "Oracle|81|kept");
+        row("NVS", "optNVS", "nvscmd.exe", "KQM7037E|NVS|nvscmd.exe", "NVS|kept| Inst 2 ");
+        row("MSSQL", "optMSSQL", "ISQL.EXE", "KQM7067E|MS Sql|isql.exe", "MSSQL|kept|kept");
+        row("Sybase", "optSybase", "ISQL.EXE", "KQM7068E|Sybase|isql.exe", "Sybase|kept|kept");
+        row("Tessaril", "optTessaril", "SQLEDITOR300.EXE", "KQM7069E|Tessaril|sqleditor300.exe", "Tessaril|kept|kept");
     }
-
     void saveByType()
     {
         QFETCH(QStringList, options);
         QFETCH(QString, program);
         QFETCH(QString, missing);
         QFETCH(QStringList, written);
-
         setOptions(options);
         frmDataSource->txtNVSinst->SetText(QStringLiteral(" Inst 2 "));
         frmDataSource->txtUserID->SetText(QStringLiteral("  new user "));
@@ -125,7 +103,11 @@ private slots:
 
         // without the client: its message, the failed status, nothing written
         QTest::mouseClick(frmDataSource->cmdOK, Qt::LeftButton);
-        QCOMPARE(m_boxes.texts(), QStringList { missing });
+        const QStringList named = missing.split(QLatin1Char('|'));
+        QCOMPARE(m_boxes.texts(),
+            QStringList { QStringLiteral("%1 Required file not found, %2 client component %3 not installed or is not "
+                                         "in the path. Please refer to the release notes ")
+                              .arg(named[0], named[1], named[2]) });
         QCOMPARE(m_boxes.calls.first().title, QStringLiteral("KQM7049I Orvanta Monitor 5.1.0 - Vantrel"));
         QCOMPARE(status(), QStringLiteral("KQM7050E Status: Action failed"));
         QCOMPARE(stored(), QStringList(6, QStringLiteral("kept")));
@@ -140,18 +122,9 @@ private slots:
         QVERIFY(ReadRegValue(QStringLiteral("Access")) != QLatin1String("Pass word"));
     }
 
-    void noTypeIsRefused()
-    {
-        setOptions({});
-        frmDataSource->txtUserID->SetText(QStringLiteral("someone"));
-        QTest::keyClick(frmDataSource->txtUserID, Qt::Key_Return); // Enter is OK from any field
-        QCOMPARE(m_boxes.texts(), QStringList { "KQM7038E Database type must be selected" });
-        QCOMPARE(stored(), QStringList(6, QStringLiteral("kept")));
-    }
-
     void passwordComesBackDeciphered()
     {
-        QString typed = QStringLiteral("Secret pw");
+        QString typed = QStringLiteral("Secret pw"); // enciphering alters its argument
         ConsoleFixture::setValue("Access", EncryptText(typed));
         QTest::keyClick(frmDataSource->txtPassword, Qt::Key_Escape);
         QCOMPARE(frmDataSource->txtPassword->text(), QStringLiteral("Secret pw"));
@@ -163,35 +136,22 @@ private slots:
         QCOMPARE(status(), QStringLiteral("KQM7045E Decryption returned a null string"));
     }
 
-    void loadByCaller_data()
+    // Only the type's exact name and a known Oracle version set an option.
+    void loadSetsKnownOptionsOnly_data()
     {
-        QTest::addColumn<QString>("caller");
-        QTest::addColumn<QString>("db");
-        QTest::addColumn<QString>("oracle");
         QTest::addColumn<QStringList>("options");
-        QTest::newRow("Oracle 81") << "frmDataSource" << "Oracle" << "81" << QStringList { "optORA", "optORA81" };
-        QTest::newRow("Oracle 90") << "frmDataSource" << "Oracle" << "90" << QStringList { "optORA" };
-        QTest::newRow("overview: no version") << "frmCurrentConfig" << "Oracle" << "81" << QStringList { "optORA" };
-        QTest::newRow("lower case: no type") << "frmDataSource" << "oracle" << "81" << QStringList();
+        QTest::addColumn<QString>("DB");
+        QTest::addColumn<QString>("Oracle");
+        QTest::newRow("Oracle 90: no version") << QStringList { "optORA" } << "Oracle" << "90";
+        QTest::newRow("lower case: no type") << QStringList() << "oracle" << "81";
     }
-
-    void loadByCaller()
+    void loadSetsKnownOptionsOnly()
     {
-        QFETCH(QString, caller);
-        QFETCH(QString, db);
-        QFETCH(QString, oracle);
         QFETCH(QStringList, options);
-
-        ConsoleFixture::setValue("DB", db);
-        ConsoleFixture::setValue("Oracle", oracle);
+        ConsoleFixture::storeColumns({ "DB", "Oracle" });
         setOptions({});
-        for (TextBox* field : { frmDataSource->txtUserID, frmDataSource->txtDSN, frmCurrentConfig->txtDataSource })
-            field->SetText(QStringLiteral("typed"));
-        LoadDataSource(caller);
+        LoadDataSource(QStringLiteral("frmDataSource"));
         QCOMPARE(setOptions(), options);
-        const bool own = caller == QLatin1String("frmDataSource");
-        QCOMPARE(frmDataSource->txtUserID->Text(), own ? QStringLiteral("kept") : QStringLiteral("typed"));
-        QCOMPARE(frmCurrentConfig->txtDataSource->Text(), own ? QStringLiteral("typed") : QStringLiteral("kept"));
     }
 
     void cancelAfterSwitchingRestoresOracle()
@@ -206,13 +166,6 @@ private slots:
         QCOMPARE(setOptions(), QStringList({ "optORA", "optORA80" }));
         QVERIFY(frmDataSource->optORA80->Enabled() && !frmDataSource->txtNVSinst->Enabled());
         QCOMPARE(status(), QStringLiteral("KQM7051I Status: Ready"));
-    }
-
-    void failurePathBox()
-    {
-        ShowFailure(RuntimeError(76, QStringLiteral("Writing")));
-        QCOMPARE(m_boxes.texts(),
-            QStringList { "KQM7001E Error encountered Path not found , KQM7002E  Error number = 76" });
     }
 
 private:

@@ -1,27 +1,16 @@
 #include "repository/path_search.h"
 
 #include <QDir>
-#include <QFile>
 #include <QTemporaryDir>
 #include <QTest>
 
-// The client program search. "b" holds the program; "a" is empty; "dir" holds a directory of the
-// program's name; "shut" can't be searched; "long" stands for a name the system refuses.
+// "b" holds the program; "a" is empty; "dir" holds a directory of the program's name; "shut" can't be
+// searched; "long" stands for a name the system refuses.
 class TestPathSearch : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void initTestCase()
-    {
-        QDir root(m_dir.path());
-        for (const char* name : { "a", "b", "dir/nvscmd.exe", "shut" })
-            QVERIFY(root.mkpath(QString::fromLatin1(name)));
-        QFile program(root.filePath(QStringLiteral("b/nvscmd.exe")));
-        QVERIFY(program.open(QIODevice::WriteOnly));
-        QVERIFY(QFile::setPermissions(root.filePath(QStringLiteral("shut")), {}));
-    }
-
     void search_data()
     {
         QTest::addColumn<QString>("path");
@@ -34,15 +23,19 @@ private slots:
         QTest::newRow("unsearchable directory passed over") << "shut:b:" << true;
         QTest::newRow("name too long passed over") << "long:b:" << true;
     }
-
     void search()
     {
         QFETCH(QString, path);
         QFETCH(bool, found);
+        QTemporaryDir dir;
+        for (const char* name : { "a", "b", "dir/nvscmd.exe", "shut" })
+            QVERIFY(QDir(dir.path()).mkpath(QString::fromLatin1(name)));
+        QVERIFY(QFile(dir.filePath(QStringLiteral("b/nvscmd.exe"))).open(QIODevice::WriteOnly));
+        QVERIFY(QFile::setPermissions(dir.filePath(QStringLiteral("shut")), {}));
         QStringList items = path.split(QLatin1Char(':'));
         for (QString& item : items) {
             if (!item.isEmpty())
-                item = item == QLatin1String("long") ? QString(5000, QLatin1Char('x')) : m_dir.filePath(item);
+                item = item == QLatin1String("long") ? QString(5000, QLatin1Char('x')) : dir.filePath(item);
         }
         const QByteArray saved = qgetenv("PATH");
         qputenv("PATH", QFile::encodeName(items.join(QLatin1Char(':'))));
@@ -50,9 +43,6 @@ private slots:
         qputenv("PATH", saved);
         QCOMPARE(result, found);
     }
-
-private:
-    QTemporaryDir m_dir;
 };
 
 QTEST_GUILESS_MAIN(TestPathSearch)

@@ -1,12 +1,10 @@
 #pragma once
 
-#include "platform/clock.h"
 #include "platform/forms/list_box.h"
 #include "shell/MDIMainForm.h"
+#include "support/file_bytes.h"
 
-#include <QFile>
 #include <QStatusBar>
-#include <QTest>
 
 // Server records built by hand, as a collector writes them, rather than by the code under test.
 inline QByteArray serverRecord(const QByteArray& server, const QByteArray& sid = "PRD",
@@ -15,19 +13,6 @@ inline QByteArray serverRecord(const QByteArray& server, const QByteArray& sid =
     const auto field = [](const QByteArray& value, int width) { return value.leftJustified(width, ' ', true); };
     return field(server, 100) + field("QD7MON", 30) + field(password, 30) + field(sid, 3) + field(client, 3)
         + field(instance, 2) + "000000240000E\r\n";
-}
-
-inline void writeBytes(const QString& path, const QByteArray& bytes)
-{
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
-    file.write(bytes);
-}
-
-inline QByteArray readBytes(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("<missing>");
 }
 
 inline QStringList items(ListBox* list)
@@ -41,13 +26,4 @@ inline QStringList items(ListBox* list)
 inline QString status()
 {
     return MDIMainForm->staMainStatusBar->currentMessage();
-}
-
-// A clock that moves on a second at each reading, so that a wait on it costs no time.
-inline void useSteppingClock()
-{
-    Clock::setSource([moment = QDateTime(QDate(2002, 10, 1), QTime(12, 0))]() mutable {
-        moment = moment.addSecs(1);
-        return moment;
-    });
 }

@@ -1,4 +1,5 @@
 #include "server_files.h"
+#include "servers/server_checks.h"
 #include "servers/server_record.h"
 
 class TestServerRecord : public QObject
@@ -18,7 +19,6 @@ private slots:
         QTest::newRow("padded, latin-1 kept") << QString::fromLatin1(" s\xfc\x80.corp") << QString::fromLatin1("\xe4")
                                               << serverRecord(" s\xfc\x80.corp", "\xe4");
     }
-
     void bytesOfARecord()
     {
         QFETCH(QString, server);
@@ -33,14 +33,23 @@ private slots:
         QCOMPARE(back.toBytes(), bytes);
     }
 
-    void languageLettersByListPosition()
+    void qualifiedHosts_data()
     {
-        QString letters;
-        for (int i = -1; i <= ServerLanguage::Count; ++i)
-            letters += ServerLanguage::letter(i);
-        QCOMPARE(letters, QStringLiteral("EDJFISPKTC")); // T Simplified, C Traditional Chinese
-        QCOMPARE(ServerLanguage::listIndex(QStringLiteral("C")), 9);
-        QCOMPARE(ServerLanguage::listIndex(QStringLiteral("e")), -1);
+        QTest::addColumn<QString>("server");
+        QTest::addColumn<bool>("qualified");
+        QTest::newRow("plain") << "sap1.corp" << true;
+        QTest::newRow("router string") << "/H/gw.corp/S/3299/H/sap1.corp" << true;
+        QTest::newRow("letters after digits") << "10.0.0.7a" << true;
+        QTest::newRow("dots only in the hops") << "/H/gw.corp/S/3299/H/sap1" << false;
+        QTest::newRow("ends in a slash") << "sap1.corp/" << false;
+        QTest::newRow("address") << "10.0.0.7" << false;
+        QTest::newRow("exponent is a number") << "1.2e3" << false;
+    }
+    void qualifiedHosts()
+    {
+        QFETCH(QString, server);
+        QFETCH(bool, qualified);
+        QCOMPARE(IsFullyQualified(server), qualified);
     }
 };
 

@@ -44,6 +44,19 @@ public:
         UpdateRegistry(name, buffer.constData());
     }
 
+    // The current test row's QString columns of these names stored as the settings of the same names;
+    // a null text deletes the setting.
+    static void storeColumns(std::initializer_list<const char*> names)
+    {
+        for (const char* name : names) {
+            const QString& value = *static_cast<QString*>(QTest::qData(name, qMetaTypeId<QString>()));
+            if (value.isNull())
+                DeleteRegistry(name);
+            else
+                setValue(name, value);
+        }
+    }
+
     static QWidget* widget(const QString& name)
     {
         for (QWidget* w : QApplication::allWidgets()) {
