@@ -118,6 +118,17 @@ private slots:
         QVERIFY(!MDIMainForm->mnuDebugLogFiles->Checked() && !MDIMainForm->mnuLoaderHalt->Checked());
     }
 
+    // Starting the viewer has no failure path: a viewer that isn't there ends the console.
+    void missingViewerEndsTheConsole()
+    {
+        qputenv("QD7_TEXT_VIEWER", "/nonexistent/viewer");
+        QVERIFY(QFile(BinDir + QStringLiteral("/trace_qd7ldr.log")).open(QIODevice::WriteOnly));
+        m_boxes.calls.clear();
+        MDIMainForm->mnuLoaderLog->trigger();
+        QVERIFY(m_boxes.texts().value(0).startsWith(QLatin1String("Run-time error '53'")));
+        QCOMPARE(m_console.exitStatuses, QList<int> { 1 });
+    }
+
 private:
     ConsoleFixture m_console;
     MsgBoxRecorder m_boxes;

@@ -122,6 +122,15 @@ private slots:
         QVERIFY(ReadRegValue(QStringLiteral("Access")) != QLatin1String("Pass word"));
     }
 
+    void noTypeIsRefused()
+    {
+        setOptions({});
+        frmDataSource->txtUserID->SetText(QStringLiteral("someone"));
+        QTest::keyClick(frmDataSource->txtUserID, Qt::Key_Return); // Enter is OK from any field
+        QCOMPARE(m_boxes.texts(), QStringList { "KQM7038E Database type must be selected" });
+        QCOMPARE(stored(), QStringList(6, QStringLiteral("kept")));
+    }
+
     void passwordComesBackDeciphered()
     {
         QString typed = QStringLiteral("Secret pw"); // enciphering alters its argument

@@ -176,8 +176,24 @@ private slots:
         }
         QCOMPARE(m_console.exitStatuses, QList<int> { 1 });
         m_console.exitStatuses.clear();
-        QVERIFY(m_boxes.texts().value(0).startsWith(QStringLiteral("Run-time error '70': Permission denied")));
+        const QString box = m_boxes.texts().value(0);
+        QVERIFY(box.startsWith(QStringLiteral("Run-time error '70': Permission denied\n\nSaving the server list failed")));
+        QVERIFY(box.contains(m_path));
         QCOMPARE(readBytes(m_path), Sap1 + Sap1OtherClient + Sap2);
+    }
+
+    // A short last record has no instance: no row has its trimmed entry, and the table can't shrink.
+    void deleteOfARecordCutShortEndsTheConsole()
+    {
+        writeBytes(m_path, Sap2 + serverRecord("sap3.corp").left(100));
+        frmServers->cmdCancel_Click();
+        frmServers->lstServer->SetListIndex(1);
+        frmServers->cmdDelete->Click.raise();
+        QCOMPARE(m_console.exitStatuses, QList<int> { 1 });
+        m_console.exitStatuses.clear();
+        QVERIFY(m_boxes.texts().value(0).startsWith(
+            QStringLiteral("Run-time error '9': Subscript out of range\n\nDeleting \"sap3.corp\" from the server list")));
+        QCOMPARE(readBytes(m_path).size(), 183 + 100);
     }
 
     // One box, the first failure's, its field selected; the editor stays, "Action successful" on the bar.

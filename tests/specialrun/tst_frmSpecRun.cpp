@@ -270,6 +270,17 @@ private slots:
         QCOMPARE(status(), QStringLiteral("KQM7054W Action cancelled"));
     }
 
+    // The key goes down before its character lands: the eighth digit stays in the date.
+    void fullFieldPassesTheFocusOn()
+    {
+        frmSpecRun->txtStartDate->SetFocus();
+        QTest::keyClicks(frmSpecRun->txtStartDate, QStringLiteral("20261122"));
+        QCOMPARE(frmSpecRun->txtStartDate->Text(), QStringLiteral("20261122"));
+        QCOMPARE(QApplication::focusWidget(), frmSpecRun->txtStartTime);
+        QTest::keyClicks(frmSpecRun->txtStartTime, QStringLiteral("080000"));
+        QCOMPARE(QApplication::focusWidget(), frmSpecRun->txtEndDate);
+    }
+
 private:
     ConsoleFixture m_console;
     MsgBoxRecorder m_boxes;
