@@ -1,10 +1,9 @@
 #pragma once
-// The store through the C interface as the console calls it, the tool ($QD7_TOOL) as a process.
+// The store through the C interface as the console calls it.
 #include "qd7gd.h"
 
 #include <QDir>
 #include <QFile>
-#include <QProcess>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -17,8 +16,7 @@ inline int32_t setReg(const QByteArray& name, const QByteArray& value)
     return UpdateRegistry(name.constData(), buffer.constData());
 }
 
-// A count that disagrees with the NUL after the value, or a byte past the buffer, shows as a
-// value no test expects.
+// A count that disagrees with the NUL after the value, or a byte past the buffer, reads as "<bad buffer>".
 inline QByteArray readReg(const QByteArray& name)
 {
     char buffer[256];
@@ -39,8 +37,7 @@ inline void writeBytes(const QString& path, const QByteArray& bytes)
 {
     QDir().mkpath(QFileInfo(path).path());
     QFile f(path);
-    if (f.open(QIODevice::WriteOnly))
-        f.write(bytes);
+    QVERIFY(f.open(QIODevice::WriteOnly) && f.write(bytes) == bytes.size());
 }
 
 // A fresh store for each test case, in a directory not made yet; child processes inherit it.
@@ -50,18 +47,3 @@ struct TempStore
     QString path = dir.path() + "/etc/qd7gd.ini";
     TempStore() { qputenv("QD7_REGISTRY", QFile::encodeName(path)); }
 };
-
-struct ToolRun
-{
-    int status = -1;
-    QByteArray out, err;
-};
-
-inline ToolRun runTool(const QStringList& args)
-{
-    QProcess p;
-    p.start(qEnvironmentVariable("QD7_TOOL"), args);
-    if (!p.waitForFinished(30000) || p.exitStatus() != QProcess::NormalExit)
-        return {};
-    return { p.exitCode(), p.readAllStandardOutput(), p.readAllStandardError() };
-}

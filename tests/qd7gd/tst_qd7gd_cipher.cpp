@@ -10,7 +10,7 @@ namespace {
 
 const char kPassPhrase[] = "Hostelm4_Brandiwickt7";
 
-// A count that disagrees with the text, a NUL inside it or a byte past 255 shows as "<bad output>".
+// A count that disagrees with the text, a NUL inside it or a byte past 255 reads as "<bad output>".
 QByteArray run(decltype(&Encrypt) function, const QByteArray& input, const char* key = kPassPhrase)
 {
     char output[256];
@@ -28,47 +28,36 @@ class TestCipher : public QObject
     Q_OBJECT
 
 private slots:
-    void vectors_data()
-    {
-        QTest::addColumn<QByteArray>("key");
-        QTest::addColumn<QByteArray>("clear");
-        QTest::addColumn<QByteArray>("enciphered");
-        const QByteArray console(kPassPhrase);
-        const auto hex = QByteArray::fromHex;
-        QTest::newRow("Secret pw") << console << QByteArray("Secret pw") << QByteArray("zGqu'FSU0");
-        QTest::newRow("one byte") << console << QByteArray("x") << QByteArray("$");
-        QTest::newRow("Latin-1") << console << hex("706135352077f67264") << hex("394343384149ca577b");
-        QTest::newRow("tab unchanged") << console << QByteArray("Tab\there") << QByteArray("Yq9\tzgK_");
-        QTest::newRow("interior blank") << console << QByteArray("~ ~") << QByteArray("z$o");
-        QTest::newRow("30 bytes") << console << QByteArray("0123456789 abcdefghijklmnopqrs")
-                                  << hex("434e2a22653d2c2d505b2a602f4d3e385b27222e2f203b4d3c606f544d55");
-        QTest::newRow("0xA0 unchanged") << console << hex("a0a1ff") << hex("a0a5c8");
-        QTest::newRow("other key") << QByteArray("k") << QByteArray("Secret pw") << QByteArray("1O-8hxu?;");
-        QTest::newRow("empty key") << QByteArray("") << QByteArray("Secret pw") << QByteArray("2rMR>}JQo");
-    }
+    // Key, clear and enciphered text; the tab and 0xA0 map to themselves.
     void vectors()
     {
-        QFETCH(QByteArray, key);
-        QFETCH(QByteArray, clear);
-        QFETCH(QByteArray, enciphered);
-        QCOMPARE(run(Encrypt, clear, key.constData()), enciphered);
-        QCOMPARE(run(Decrypt, enciphered, key.constData()), clear);
+        const auto hex = QByteArray::fromHex;
+        const QByteArray vectors[][3] = {
+            { kPassPhrase, "Secret pw", "zGqu'FSU0" },
+            { kPassPhrase, hex("706135352077f67264"), hex("394343384149ca577b") },
+            { kPassPhrase, "Tab\there", "Yq9\tzgK_" },
+            { kPassPhrase, "~ ~", "z$o" },
+            { kPassPhrase, hex("a0a1ff"), hex("a0a5c8") },
+            { "k", "Secret pw", "1O-8hxu?;" },
+            { "", "Secret pw", "2rMR>}JQo" },
+        };
+        for (const auto& [key, clear, enciphered] : vectors) {
+            QCOMPARE(run(Encrypt, clear, key.constData()), enciphered);
+            QCOMPARE(run(Decrypt, enciphered, key.constData()), clear);
+        }
     }
 
-    // Lengths 1 to 30 (the Password field) and the longest, 254.
+    // Lengths 1 to 30 (the Password field) and the longest, 254; any byte but NUL, no blank at the ends.
     void randomTexts()
     {
-        QByteArray interior, ends;
-        for (int b = 1; b <= 0xFF; ++b)
-            interior.append(char(b));
-        ends = QByteArray(interior).replace(' ', "");
         QRandomGenerator random(20240517);
         for (int n = 1; n <= 254; n = n == 30 ? 254 : n + 1) {
             for (int round = 0; round < 200; ++round) {
                 QByteArray clear(n, ' ');
                 for (int i = 0; i < n; ++i) {
-                    const QByteArray& pool = i == 0 || i == n - 1 ? ends : interior;
-                    clear[i] = pool[random.bounded(int(pool.size()))];
+                    clear[i] = char(random.bounded(1, 256));
+                    if ((i == 0 || i == n - 1) && clear[i] == ' ')
+                        clear[i] = '~';
                 }
                 const QByteArray e = run(Encrypt, clear);
                 QCOMPARE(e.size(), n);
@@ -78,17 +67,13 @@ private slots:
         }
     }
 
-    void unmappableAndNull()
+    // Nothing comes of an empty text, one with a blank at either end, or one too long for the buffer.
+    void unmappable()
     {
         for (const auto function : { Encrypt, Decrypt }) {
             for (const QByteArray& input :
                 { QByteArray(""), QByteArray(" "), QByteArray(" pw"), QByteArray("pw "), QByteArray(255, 'a') })
                 QVERIFY2(run(function, input).isEmpty(), input.constData());
-            char output[255] = "stale";
-            QCOMPARE(function("pw", nullptr, output), 0);
-            QCOMPARE(output[0], '\0');
-            QCOMPARE(function(nullptr, kPassPhrase, output), 0);
-            QCOMPARE(function("pw", kPassPhrase, nullptr), 0);
         }
     }
 };

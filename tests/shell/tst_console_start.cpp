@@ -1,16 +1,23 @@
 #include "platform/clock.h"
+#include "platform/forms/combo_box.h"
 #include "platform/forms/menu_item.h"
-#include "platform/forms/tree_view.h"
+#include "platform/forms/text_box.h"
 #include "shell/MDIMainForm.h"
+#include "shell/frmCurrentConfig.h"
 #include "shell/frmSplash.h"
 #include "shell/navigation.h"
 #include "shell/shared_state.h"
 #include "support/console_fixture.h"
+#include "support/msg_box_recorder.h"
 
+#include <QProcess>
 #include <QStatusBar>
 #include <QTimer>
 
-// One console per process: the start without "-D", on a clock the test drives.
+#include <cstdlib>
+
+// The start without "-D", on a clock the test drives, and the overview it opens on. QD7_START_AT makes
+// the child of the midnight case.
 class TestConsoleStart : public QObject
 {
     Q_OBJECT
@@ -18,21 +25,24 @@ class TestConsoleStart : public QObject
 private slots:
     void initTestCase()
     {
-        QFile groups(m_console.binDir + QStringLiteral("/qd7AppGroup.dat"));
-        QVERIFY(groups.open(QIODevice::WriteOnly));
-        groups.write("Sales                              5000");
-        groups.close();
-        m_now = QDateTime(QDate(2026, 11, 23), QTime(10, 0));
+        m_now = QDateTime(QDate(2026, 11, 23), QTime::fromString(qEnvironmentVariable("QD7_START_AT", "10:00")));
         // the splash's first look at the clock is the start of its wait
         Clock::setSource([this] {
             if (!m_waitFrom.isValid())
                 m_waitFrom = m_now;
             return m_now;
         });
-        // the fake clock moves in steps while the splash spins, and notes when the frame came
+        // the clock moves in steps once the splash spins
         connect(&m_ticker, &QTimer::timeout, this, [this] {
-            if (!m_frameAt.isValid() && ConsoleFixture::shown(QStringLiteral("MDIMainForm")))
+            const bool frame = ConsoleFixture::shown(QStringLiteral("MDIMainForm"));
+            if (!m_waitFrom.isValid())
+                return;
+            if (!m_frameAt.isValid() && frame)
                 m_frameAt = m_now;
+            if (m_waitFrom.msecsTo(m_now) == 60000 && !frame) {
+                m_console.dir.remove();
+                std::_Exit(3); // still waiting a minute on
+            }
             m_now = m_now.addMSecs(250);
         });
         m_ticker.start(5);
@@ -48,95 +58,90 @@ private slots:
         const qint64 waited = m_waitFrom.msecsTo(m_frameAt);
         QVERIFY2(waited >= 3000 && waited <= 3500, qPrintable(QString::number(waited)));
         QVERIFY(!ConsoleFixture::widget(QStringLiteral("frmSplash")));
-    }
-
-    void groupsAndInstallationAreReadFirst()
-    {
-        QCOMPARE(BinDir, m_console.binDir);
-        QCOMPARE(AppGroupCount, qint16(1));
-        QCOMPARE(AppGroupTable(1, 1), QStringLiteral("Sales"));
-        QCOMPARE(AppGroupTable(1, 2), QStringLiteral("5000"));
+        QCOMPARE(BinDir, m_console.binDir); // read by the splash
+        // "-D" in either case skips the wait
+        QVERIFY(SkipsSplashDelay(QStringLiteral("qd7console -d")));
+        QVERIFY(!SkipsSplashDelay(QStringLiteral("qd7console")));
     }
 
     void frameShowsTheOverviewBesideTheTree()
     {
         QCOMPARE(MDIMainForm->windowTitle(), QStringLiteral("Orvanta Monitor, Version 5.1.0 - Vantrel"));
         QCOMPARE(MDIMainForm->staMainStatusBar->currentMessage(), QStringLiteral("KQM7051I Status: Ready"));
-        QVERIFY(ConsoleFixture::shown(QStringLiteral("frmTreeView")));
         QCOMPARE(CurrentPage, QStringLiteral("frmCurrentConfig"));
         Form* overview = PageByName(QStringLiteral("frmCurrentConfig"));
         QCOMPARE(overview->Left(), 3570); // 3564 twips, to the pixel
-        QVERIFY(overview->subWindow()->geometry().left() >= ConsoleFixture::widget(QStringLiteral("frmTreeView"))->width());
+        QWidget* tree = ConsoleFixture::widget(QStringLiteral("frmTreeView"));
+        QVERIFY(tree && tree->isVisible());
+        QVERIFY(overview->subWindow()->geometry().left() >= tree->width());
         QCOMPARE(Form::lastActivated(), overview);
-        auto* tree = qobject_cast<TreeView*>(ConsoleFixture::widget(QStringLiteral("treConfigurator")));
-        QVERIFY(tree);
-        QCOMPARE(tree->Nodes().size(), 26);
-        QCOMPARE(tree->Node(QStringLiteral("ndServer"))->text(0), QStringLiteral("Server"));
-        QCOMPARE(tree->Node(QStringLiteral("ndServer"))->parent(), tree->Node(QStringLiteral("ndInitialConfig")));
     }
 
-    // The first HideOtherPages brought every page into being, hidden.
-    void everyOtherPageIsLoadedAndHidden()
+    // The end of the wait lies past the day's last second, which the time of day never reaches.
+    void startJustBeforeMidnightNeverLeavesTheWait()
     {
-        int visible = 0;
-        for (const QString& name : PageNames()) {
-            QWidget* page = ConsoleFixture::widget(name);
-            QVERIFY2(page, qPrintable(name));
-            visible += page->isVisible() ? 1 : 0;
+        QProcess child;
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert(QStringLiteral("QD7_START_AT"), QStringLiteral("23:59:58"));
+        child.setProcessEnvironment(environment);
+        child.start(QCoreApplication::applicationFilePath(), { QStringLiteral("frameShowsTheOverviewBesideTheTree") });
+        QVERIFY(child.waitForFinished(20000));
+        QCOMPARE(child.exitCode(), 3);
+    }
+
+    // The overview tells what the settings and the files hold at each activation, and nothing more.
+    void overviewFollowsTheSourcesOnDisk_data()
+    {
+        QTest::addColumn<QString>("dsn");
+        QTest::addColumn<QByteArrayList>("files"); // IDs, programs, transactions; "-" for none
+        QTest::addColumn<QStringList>("shown"); // data source and the three boxes, ">" the selection
+
+        QTest::newRow("nothing at all: empty, no message")
+            << QString() << QByteArrayList { "-", "-", "-" } << QStringList { "", "", "", "" };
+        QTest::newRow("data source and three lists")
+            << "QD7REPO"
+            << QByteArrayList { "SAPSYS      \r\nDDIC        \r\n", "RSBTCRTE                      \r\n",
+                   "SM50                \r\nST22                \r\n" }
+            << QStringList { "QD7REPO", ">SAPSYS DDIC", ">RSBTCRTE", ">SM50 ST22" };
+        QTest::newRow("changed: emptied, gone, lower case")
+            << "QD7TEST" << QByteArrayList { "", "-", "se38                " }
+            << QStringList { "QD7TEST", "", "", ">se38" };
+    }
+
+    void overviewFollowsTheSourcesOnDisk()
+    {
+        QFETCH(QString, dsn);
+        QFETCH(QByteArrayList, files);
+        QFETCH(QStringList, shown);
+
+        ConsoleFixture::setValue("DSN", dsn);
+        const char* names[] = { "qd7IDsToIgnore.dat", "qd7ProgsToIgnore.dat", "qd7TransToIgnore.dat" };
+        for (int i = 0; i < 3; ++i) {
+            QFile file(m_console.binDir + QLatin1Char('/') + QLatin1String(names[i]));
+            if (files[i] == "-")
+                file.remove();
+            else
+                QVERIFY(file.open(QIODevice::WriteOnly) && file.write(files[i]) == files[i].size());
         }
-        QCOMPARE(visible, 1);
-    }
-
-    void skipSwitch_data()
-    {
-        QTest::addColumn<QString>("commandLine");
-        QTest::addColumn<bool>("skips");
-        QTest::newRow("-D") << "qd7console -D" << true;
-        QTest::newRow("lower case") << "qd7console -d" << true;
-        QTest::newRow("inside a word") << "qd7console --debug" << true;
-        QTest::newRow("none") << "qd7console /D" << false;
-    }
-
-    void skipSwitch()
-    {
-        QFETCH(QString, commandLine);
-        QFETCH(bool, skips);
-        QCOMPARE(SkipsSplashDelay(commandLine), skips);
-    }
-
-    // The last character, and the one before the next switch, never count.
-    void validateParms_data()
-    {
-        QTest::addColumn<int>("start");
-        QTest::addColumn<int>("next");
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<bool>("alone");
-        QTest::newRow("alone at the end") << 1 << 0 << "-D" << true;
-        QTest::newRow("last character ignored") << 1 << 0 << "-Dx" << true;
-        QTest::newRow("word after") << 1 << 0 << "-Dxyz" << false;
-        QTest::newRow("blanks after") << 1 << 0 << "-D   " << true;
-        QTest::newRow("before next, last ignored") << 1 << 6 << "-D  x-E" << true;
-        QTest::newRow("word before next") << 1 << 8 << "-D xyz -E" << false;
-    }
-
-    void validateParms()
-    {
-        QFETCH(int, start);
-        QFETCH(int, next);
-        QFETCH(QString, text);
-        QFETCH(bool, alone);
-        QCOMPARE(MDIMainForm->validate_parms(qint16(start), qint16(next), text), alone);
-    }
-
-    void exitEndsAtOnce()
-    {
-        MDIMainForm->mnuExit->trigger();
-        QVERIFY(!m_console.exitStatuses.isEmpty());
-        QCOMPARE(m_console.exitStatuses.first(), 0);
+        // away to another page and back, as the user would
+        MDIMainForm->mnuDataSource->trigger();
+        MDIMainForm->mnuCurrentConfig->trigger();
+        QStringList now { frmCurrentConfig->txtDataSource->Text() };
+        for (ComboBox* box :
+            { frmCurrentConfig->cmbIDs, frmCurrentConfig->cmbPrograms, frmCurrentConfig->cmbTransactions }) {
+            QStringList items;
+            for (int i = 0; i < box->ListCount(); ++i)
+                items << (i == box->ListIndex() ? QStringLiteral(">") : QString()) + box->List(i);
+            now << items.join(QLatin1Char(' '));
+        }
+        QCOMPARE(now, shown);
+        QCOMPARE(m_boxes.calls.size(), 0);
+        QCOMPARE(MDIMainForm->staMainStatusBar->currentMessage(), QStringLiteral("KQM7051I Status: Ready"));
     }
 
 private:
     ConsoleFixture m_console;
+    MsgBoxRecorder m_boxes;
     QDateTime m_now;
     QDateTime m_frameAt;
     QDateTime m_waitFrom;

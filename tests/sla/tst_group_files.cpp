@@ -1,6 +1,4 @@
 #include "platform/forms/hourglass.h"
-#include "platform/record_file.h"
-#include "platform/support/failure_of.h"
 #include "shell/shared_state.h"
 #include "sla/group_files.h"
 
@@ -9,10 +7,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 
-#include <fcntl.h>
 #include <memory>
-#include <sys/file.h>
-#include <unistd.h>
 
 namespace {
 
@@ -51,142 +46,84 @@ private slots:
     {
         m_dir = std::make_unique<QTemporaryDir>();
         BinDir = m_dir->path();
-        AppGroupTable = TextTable();
-        TransGroupTable = TextTable();
-        AppGroupCount = TransGroupCount = 0;
     }
 
-    void cleanup() { Hourglass::set(false); }
-
-    void recordsByteForByte_data()
-    {
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<QString>("value");
-        QTest::addColumn<QByteArray>("appBytes");
-        QTest::addColumn<QByteArray>("memberBytes");
-
-        QTest::newRow("padded") << "Sales"
-                                << "25" << QByteArray("Sales                              25  ")
-                                << QByteArray("Sales                              25                  ");
-        QTest::newRow("cut") << "Forty characters of group name, ending X"
-                             << "Z_TWENTY_ONE_LETTERS1" << QByteArray("Forty characters of group name, endZ_TW")
-                             << QByteArray("Forty characters of group name, endZ_TWENTY_ONE_LETTERS");
-        QTest::newRow("outer blanks and latin-1 kept")
-            << QString::fromLatin1(" S\xfc\x80\xff ") << " 1"
-            << QByteArray(" S\xfc\x80\xff                               1  ")
-            << QByteArray(" S\xfc\x80\xff                               1                  ");
-    }
-
+    // Names and values padded or cut to the fields, outer blanks and every Latin-1 byte kept.
     void recordsByteForByte()
     {
-        QFETCH(QString, name);
-        QFETCH(QString, value);
-        QFETCH(QByteArray, appBytes);
-        QFETCH(QByteArray, memberBytes);
-
-        const AppGroupRecordBuffer group { name, value };
-        const TransGroupRecordBuffer code { name, value };
-        QCOMPARE(group.toBytes(), appBytes);
-        QCOMPARE(code.toBytes(), memberBytes);
-        const AppGroupRecordBuffer groupBack = AppGroupRecordBuffer::fromBytes(appBytes);
-        const TransGroupRecordBuffer codeBack = TransGroupRecordBuffer::fromBytes(memberBytes);
-        QCOMPARE(groupBack.Name, QString::fromLatin1(appBytes.left(35)));
-        QCOMPARE(groupBack.Target, QString::fromLatin1(appBytes.mid(35)));
-        QCOMPARE(codeBack.Name, QString::fromLatin1(memberBytes.left(35)));
-        QCOMPARE(codeBack.Code, QString::fromLatin1(memberBytes.mid(35)));
+        const QString names[] = { QStringLiteral("Sales"), QStringLiteral("Forty characters of group name, ending X"),
+            QString::fromLatin1(" S\xfc\x80\xff ") };
+        const QString values[]
+            = { QStringLiteral("25"), QStringLiteral("Z_TWENTY_ONE_LETTERS1"), QStringLiteral(" 1") };
+        const QByteArray bytes[] = { "Sales                              25                  ",
+            "Forty characters of group name, endZ_TWENTY_ONE_LETTERS",
+            " S\xfc\x80\xff                               1                  " };
+        for (int i = 0; i < 3; ++i) {
+            QCOMPARE((AppGroupRecordBuffer { names[i], values[i] }.toBytes()), bytes[i].left(39));
+            QCOMPARE((TransGroupRecordBuffer { names[i], values[i] }.toBytes()), bytes[i]);
+            QCOMPARE(TransGroupRecordBuffer::fromBytes(bytes[i]).Name, QString::fromLatin1(bytes[i].left(35)));
+        }
     }
 
-    void loadAppGroups_data()
+    // The last record may be short; a group file drops repeated and blank names, a member file none.
+    void load_data()
     {
+        QTest::addColumn<bool>("groups");
         QTest::addColumn<QByteArray>("file");
         QTest::addColumn<QStringList>("rows");
-
+        const auto row = [](const char* tag, bool groups, const QByteArray& file, const QStringList& rows) {
+            QTest::newRow(tag) << groups << file << rows;
+        };
         const QByteArray sales = app("Sales", "2500");
         const QByteArray finance = app("Finance", "0100");
-        QTest::newRow("empty file") << QByteArray() << QStringList();
-        QTest::newRow("trimmed") << sales + app("  Finance  ", "10") << QStringList { "Sales|2500", "Finance|10" };
-        QTest::newRow("19 bytes over rounds down")
-            << sales + finance + QByteArray(19, 'H') << QStringList { "Sales|2500", "Finance|0100" };
-        QTest::newRow("20 bytes over is a short record") << sales + finance + QByteArray("HR                  ")
-                                                         << QStringList { "Sales|2500", "Finance|0100", "HR|" };
-        QTest::newRow("second of a name vanishes") << sales + app("Sales", "9999") << QStringList { "Sales|2500", "|" };
-        QTest::newRow("case differs") << sales + app("SALES", "9999") << QStringList { "Sales|2500", "SALES|9999" };
-        QTest::newRow("blank name dropped") << app("", "1000") + sales << QStringList { "Sales|2500", "|" };
-        QTest::newRow("tab is no padding") << app("\tSales", "1") + sales << QStringList { "\tSales|1", "Sales|2500" };
-        QTest::newRow("bytes 0x80-0xFF") << app("Vertrieb \x80\xa0\xc4\xff", "\xb5")
-                                         << QStringList { QString::fromLatin1("Vertrieb \x80\xa0\xc4\xff|\xb5") };
-    }
-
-    void loadAppGroups()
-    {
-        QFETCH(QByteArray, file);
-        QFETCH(QStringList, rows);
-
-        AppGroupTable.redim(5, 2);
-        AppGroupTable(1, 1) = QStringLiteral("left over");
-        AppGroupCount = 5;
-        writeFile(QStringLiteral("qd7AppGroup.dat"), file);
-        LoadAppGroups();
-        QCOMPARE(AppGroupCount, rows.size());
-        QCOMPARE(AppGroupTable.lastColumn(), 2);
-        QCOMPARE(rowsOf(AppGroupTable), rows);
-    }
-
-    void loadTransGroups_data()
-    {
-        QTest::addColumn<QByteArray>("file");
-        QTest::addColumn<QStringList>("rows");
-
+        row("empty file", true, {}, {});
+        row("trimmed", true, sales + app("  Finance  ", "10"), { "Sales|2500", "Finance|10" });
+        row("19 bytes over rounds down", true, sales + finance + QByteArray(19, 'H'), { "Sales|2500", "Finance|0100" });
+        row("20 bytes over is a short record", true, sales + finance + QByteArray("HR                  "),
+            { "Sales|2500", "Finance|0100", "HR|" });
+        row("second of a name vanishes", true, sales + app("Sales", "9999"), { "Sales|2500", "|" });
+        row("case differs", true, sales + app("SALES", "9999"), { "Sales|2500", "SALES|9999" });
+        row("blank name dropped", true, app("", "1000") + sales, { "Sales|2500", "|" });
+        row("tab is no padding", true, app("\tSales", "1") + sales, { "\tSales|1", "Sales|2500" });
+        row("bytes 0x80-0xFF", true, app("Vertrieb \x80\xa0\xc4\xff", "\xb5"),
+            { QString::fromLatin1("Vertrieb \x80\xa0\xc4\xff|\xb5") });
         const QByteArray va01 = member("Sales", "VA01");
-        QTest::newRow("empty file") << QByteArray() << QStringList();
-        QTest::newRow("everything kept, trimmed")
-            << va01 + va01 + member("", "") + member("  No such group ", " fb01 ") + member("sales", "VA01")
-            << QStringList { "Sales|VA01", "Sales|VA01", "|", "No such group|fb01", "sales|VA01" };
-        QTest::newRow("27 bytes over rounds down") << va01 + va01.left(27) << QStringList { "Sales|VA01" };
-        QTest::newRow("28 bytes over is a short record")
-            << va01 + va01.left(28) << QStringList { "Sales|VA01", "Sales|" };
+        row("members: everything kept, trimmed", false,
+            va01 + va01 + member("", "") + member("  No such group ", " fb01 "),
+            { "Sales|VA01", "Sales|VA01", "|", "No such group|fb01" });
+        row("members: 27 bytes over rounds down", false, va01 + va01.left(27), { "Sales|VA01" });
+        row("members: 28 bytes over is a short record", false, va01 + va01.left(28), { "Sales|VA01", "Sales|" });
     }
 
-    void loadTransGroups()
+    void load()
     {
+        QFETCH(bool, groups);
         QFETCH(QByteArray, file);
         QFETCH(QStringList, rows);
-
-        TransGroupTable.redim(9, 2);
-        TransGroupTable(1, 1) = QStringLiteral("left over");
-        TransGroupCount = 9;
-        writeFile(QStringLiteral("qd7TransGroup.dat"), file);
-        LoadTransGroups();
-        QCOMPARE(TransGroupCount, rows.size());
-        QCOMPARE(TransGroupTable.lastColumn(), 2);
-        QCOMPARE(rowsOf(TransGroupTable), rows);
+        TextTable& table = groups ? AppGroupTable : TransGroupTable;
+        qint16& count = groups ? AppGroupCount : TransGroupCount;
+        table.redim(9, 2);
+        table(1, 1) = QStringLiteral("left over");
+        count = 9;
+        QFile out(groups ? AppGroupFilePath() : TransGroupFilePath());
+        QVERIFY(out.open(QIODevice::WriteOnly) && out.write(file) == file.size());
+        out.close();
+        groups ? LoadAppGroups() : LoadTransGroups();
+        QCOMPARE(count, rows.size());
+        QCOMPARE(table.lastColumn(), 2);
+        QCOMPARE(rowsOf(table), rows);
         QVERIFY(!Hourglass::isOn());
     }
 
-    void missingFileAsymmetry_data()
+    // A missing file keeps the groups but empties the members; a directory of that name is a missing file.
+    void missingFiles()
     {
-        QTest::addColumn<bool>("directoryInPlace");
-        QTest::newRow("no file") << false;
-        // The existence test counts files only: a directory of that name is a missing file.
-        QTest::newRow("a directory of that name") << true;
-    }
-
-    void missingFileAsymmetry()
-    {
-        QFETCH(bool, directoryInPlace);
-
-        LoadAppGroups(); // before the first save nothing is sized at all
-        QVERIFY(!AppGroupTable.isSized());
-        if (directoryInPlace) {
-            QVERIFY(QDir(BinDir).mkdir(QStringLiteral("qd7AppGroup.dat")));
-            QVERIFY(QDir(BinDir).mkdir(QStringLiteral("qd7TransGroup.dat")));
-        }
+        QVERIFY(QDir(BinDir).mkdir(QStringLiteral("qd7TransGroup.dat")));
         AppGroupTable.redim(3, 2);
         AppGroupTable(2, 1) = QStringLiteral("Sales");
         TransGroupTable.redim(3, 2);
         TransGroupTable(3, 2) = QStringLiteral("VA01");
         AppGroupCount = TransGroupCount = 3;
-
         LoadAppGroups();
         LoadTransGroups();
         QCOMPARE(AppGroupCount, 3);
@@ -196,54 +133,7 @@ private slots:
         QVERIFY(!Hourglass::isOn());
     }
 
-    void longNameKeepsTheLinkAfterWriting()
-    {
-        const QString name = QStringLiteral("A group name of forty characters, typed");
-        const AppGroupRecordBuffer group { name, QStringLiteral("2500") };
-        const TransGroupRecordBuffer code { name, QStringLiteral("SE38") };
-        RecordFile(AppGroupFilePath(), AppGroupRecordBuffer::Length).write(1, group.toBytes());
-        RecordFile(TransGroupFilePath(), TransGroupRecordBuffer::Length).write(1, code.toBytes());
-        LoadAppGroups();
-        LoadTransGroups();
-        QCOMPARE(AppGroupTable(1, 1), name.left(35));
-        QCOMPARE(TransGroupTable(1, 1), AppGroupTable(1, 1));
-        QCOMPARE(QFileInfo(AppGroupFilePath()).size(), 39);
-        QCOMPARE(QFileInfo(TransGroupFilePath()).size(), 55);
-    }
-
-    void unreadableFileRises_data()
-    {
-        QTest::addColumn<bool>("isApp");
-        QTest::newRow("groups held by a collector") << true;
-        QTest::newRow("members held by a collector") << false;
-    }
-
-    void unreadableFileRises()
-    {
-        QFETCH(bool, isApp);
-
-        const QString path = isApp ? AppGroupFilePath() : TransGroupFilePath();
-        writeFile(QFileInfo(path).fileName(), isApp ? app("Sales", "2500") : member("Sales", "VA01"));
-        // A lock on a descriptor of its own conflicts with the console's, as another process's would.
-        const int held = ::open(QFile::encodeName(path).constData(), O_RDONLY);
-        QVERIFY(held >= 0 && ::flock(held, LOCK_EX) == 0);
-        AppGroupCount = TransGroupCount = 4;
-        const RuntimeError error = failureOf(isApp ? LoadAppGroups : LoadTransGroups);
-        ::close(held);
-        QCOMPARE(error.Number, 70);
-        QVERIFY(error.Context.contains(path));
-        QCOMPARE(AppGroupCount, 4);
-        QCOMPARE(TransGroupCount, 4);
-    }
-
 private:
-    void writeFile(const QString& name, const QByteArray& bytes)
-    {
-        QFile file(m_dir->filePath(name));
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        QCOMPARE(file.write(bytes), bytes.size());
-    }
-
     std::unique_ptr<QTemporaryDir> m_dir;
 };
 
