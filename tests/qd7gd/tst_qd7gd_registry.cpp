@@ -3,6 +3,7 @@
 
 #include <fcntl.h>
 #include <sys/file.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 class TestRegistry : public QObject
@@ -111,6 +112,27 @@ private slots:
     }
 
     // The lock is held elsewhere (a flock of its own conflicts even within this process).
+    // Another writer rewrites the file with one of the same size and modification time (one
+    // timestamp tick, forced here): a cache keyed on size and time would read the old value or
+    // write it back.
+    void sameSizeRewritesInOneTick()
+    {
+        TempStore store;
+        QCOMPARE(setReg("Seq", "v1000"), 0);
+        const QByteArray path = QFile::encodeName(store.path);
+        struct stat first;
+        QCOMPARE(::stat(path.constData(), &first), 0);
+        const struct timespec times[2] = { first.st_atim, first.st_mtim };
+        for (int i = 1001; i <= 1020; ++i) {
+            const QByteArray value = "v" + QByteArray::number(i);
+            writeBytes(store.path, "Seq=" + value + "\nMine=x\n");
+            QCOMPARE(::utimensat(AT_FDCWD, path.constData(), times, 0), 0);
+            QCOMPARE(readReg("Seq"), value);
+            QCOMPARE(setReg("Mine", "y"), 0);
+            QCOMPARE(fileBytes(store.path), "Seq=" + value + "\nMine=y\n");
+        }
+    }
+
     void lockNotObtained()
     {
         TempStore store;

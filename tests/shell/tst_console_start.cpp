@@ -139,6 +139,15 @@ private slots:
         QCOMPARE(MDIMainForm->staMainStatusBar->currentMessage(), QStringLiteral("KQM7051I Status: Ready"));
     }
 
+    // Exit ends the console at once: no question, nothing saved.
+    void exitEndsAtOnce()
+    {
+        MDIMainForm->mnuExit->trigger();
+        QVERIFY(!m_console.exitStatuses.isEmpty());
+        QCOMPARE(m_console.exitStatuses.first(), 0);
+        QCOMPARE(m_boxes.calls.size(), 0);
+    }
+
 private:
     ConsoleFixture m_console;
     MsgBoxRecorder m_boxes;
