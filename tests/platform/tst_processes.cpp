@@ -1,4 +1,6 @@
+#include "platform/command_line.h"
 #include "platform/processes.h"
+#include "platform/text_viewer.h"
 #include "support/failure_of.h"
 #include "support/recording_script.h"
 
@@ -19,10 +21,10 @@ private slots:
     void init();
 
     void runningCommandLinesShowChild();
-    void startsDetached_data();
-    void startsDetached();
-    void unstartableProgramIsError53_data();
+    void splitsWindowsCommandLines();
+    void startsDetachedWithoutAShell();
     void unstartableProgramIsError53();
+    void startsTextViewer();
 
 private:
     std::unique_ptr<QTemporaryDir> m_dir;
@@ -52,23 +54,31 @@ void TestProcesses::runningCommandLinesShowChild()
     QVERIFY(!runningCommandLines().contains(expected));
 }
 
-void TestProcesses::startsDetached_data()
+void TestProcesses::splitsWindowsCommandLines()
 {
-    QTest::addColumn<QString>("arguments");
-    QTest::addColumn<QStringList>("recorded");
-
-    QTest::newRow("collector line") << "-np -d  -if /opt/my bin/list.dat"
-                                    << QStringList { "-np", "-d", "-if", "/opt/my", "bin/list.dat" };
-    QTest::newRow("no shell") << R"("$HOME" ; `id` | "a b")" << QStringList { "$HOME", ";", "`id`", "|", "a b" };
+    const std::pair<QString, QStringList> cases[] = {
+        { " \t ", {} },
+        { R"(  "/opt/my bin/qd7stati.exe" -np -d  -if /opt/my bin/list.dat)",
+            { "/opt/my bin/qd7stati.exe", "-np", "-d", "-if", "/opt/my", "bin/list.dat" } },
+        { R"("C:\dir\" -x)", { R"(C:\dir\)", "-x" } }, // the program keeps its backslashes
+        { "p a\"b\tc\"d", { "p", "ab\tcd" } }, // a quoted part inside an argument
+        { R"(p "" x)", { "p", "", "x" } }, // an empty argument
+        { R"(p "a b  )", { "p", "a b  " } }, // an unclosed quote runs to the end
+        { R"(p a\\b\)", { "p", R"(a\\b\)" } }, // backslashes without a quote
+        { R"(p "a\\\\" b)", { "p", R"(a\\)", "b" } }, // 2n backslashes and a quote
+        { R"(p a\\\"b)", { "p", R"(a\"b)" } }, // 2n+1
+        { R"(p "a""b" c)", { "p", R"(a"b)", "c" } }, // a doubled quote inside quotes
+    };
+    for (const auto& [commandLine, arguments] : cases)
+        QCOMPARE(splitWindowsCommandLine(commandLine), arguments);
 }
 
-void TestProcesses::startsDetached()
+void TestProcesses::startsDetachedWithoutAShell()
 {
-    QFETCH(QString, arguments);
-    QFETCH(QStringList, recorded);
-
-    const qint64 pid = startDetached(QLatin1Char('"') + m_script + QStringLiteral("\" ") + arguments);
-    QCOMPARE(linesOf(m_script + QStringLiteral(".args")), recorded);
+    const qint64 pid = startDetached(
+        QLatin1Char('"') + m_script + QStringLiteral(R"(" -np -d  -if /opt/my bin/list.dat "$HOME" ; `id` | "a b")"));
+    QCOMPARE(linesOf(m_script + QStringLiteral(".args")),
+        QStringList({ "-np", "-d", "-if", "/opt/my", "bin/list.dat", "$HOME", ";", "`id`", "|", "a b" }));
     // The id is the program's own; it leads a session of its own, stdin on /dev/null.
     QCOMPARE(linesOf(m_script + QStringLiteral(".proc")), QStringList { QStringLiteral("%1 %1 /dev/null").arg(pid) });
     // The intermediate child is reaped already and the program is init's: no zombie of ours.
@@ -76,20 +86,8 @@ void TestProcesses::startsDetached()
     QCOMPARE(errno, ECHILD);
 }
 
-void TestProcesses::unstartableProgramIsError53_data()
-{
-    QTest::addColumn<QString>("program");
-
-    QTest::newRow("missing") << "my bin/missing.exe";
-    QTest::newRow("not executable") << "my bin/qd7stati.exe";
-    QTest::newRow("exec fails: no interpreter") << "broken.sh";
-    QTest::newRow("not on PATH") << "qd7-no-such-program";
-}
-
 void TestProcesses::unstartableProgramIsError53()
 {
-    QFETCH(QString, program);
-
     // The recording script no longer executable, and a script whose interpreter is missing.
     QVERIFY(QFile::setPermissions(m_script, QFileDevice::ReadOwner | QFileDevice::WriteOwner));
     QFile broken(m_dir->filePath(QStringLiteral("broken.sh")));
@@ -97,12 +95,43 @@ void TestProcesses::unstartableProgramIsError53()
     QVERIFY(broken.setPermissions(broken.permissions() | QFileDevice::ExeOwner));
     broken.close();
 
-    const QString path = program.startsWith(QLatin1String("qd7-")) ? program : m_dir->filePath(program);
-    const RuntimeError error = failureOf([&] { startDetached(QLatin1Char('"') + path + QStringLiteral("\" -np")); });
-    QCOMPARE(error.Number, 53);
-    QVERIFY2(error.Context.contains(path), qPrintable(error.Context));
+    for (const QString& path : { m_dir->filePath(QStringLiteral("my bin/missing.exe")), m_script, broken.fileName(),
+             QStringLiteral("qd7-no-such-program") }) {
+        const RuntimeError error
+            = failureOf([&] { startDetached(QLatin1Char('"') + path + QStringLiteral("\" -np")); });
+        QCOMPARE(error.Number, 53);
+        QVERIFY2(error.Context.contains(path), qPrintable(error.Context));
+    }
     QVERIFY(!QFile::exists(m_script + QStringLiteral(".proc")));
     QCOMPARE(failureOf([] { startDetached(QStringLiteral(" \t")); }).Number, 5);
+}
+
+// Started detached as one program with the file as its one argument, never through a shell.
+void TestProcesses::startsTextViewer()
+{
+    QVERIFY(QDir(m_dir->path()).mkpath(QStringLiteral("bin dir")));
+    QVERIFY(writeRecordingScript(m_dir->filePath(QStringLiteral("bin dir/my viewer"))));
+    QVERIFY(writeRecordingScript(m_dir->filePath(QStringLiteral("bin dir/xdg-open"))));
+    qputenv("PATH", QFile::encodeName(m_dir->filePath(QStringLiteral("bin dir"))) + ":/usr/bin:/bin");
+
+    const QString file = QStringLiteral("/opt/my bin/trace_qd7stati.log; $(id)");
+    // QD7_TEXT_VIEWER (empty: unset), the program started (empty: error 53)
+    const std::pair<const char*, const char*> cases[] = { { "bin dir/my viewer", "bin dir/my viewer" },
+        { "", "bin dir/xdg-open" }, { "bin dir/missing", "" }, { "bin dir/my viewer -x", "" } };
+    for (const auto& [viewer, started] : cases) {
+        if (*viewer)
+            qputenv("QD7_TEXT_VIEWER", QFile::encodeName(m_dir->filePath(QLatin1String(viewer))));
+        else
+            qunsetenv("QD7_TEXT_VIEWER");
+        const RuntimeError error = failureOf([&] { openInTextViewer(file); });
+        if (*started) {
+            QCOMPARE(error.Number, 0);
+            QCOMPARE(linesOf(m_dir->filePath(QLatin1String(started)) + QStringLiteral(".args")), QStringList { file });
+        } else {
+            QCOMPARE(error.Number, 53);
+            QVERIFY2(error.Context.contains(file), qPrintable(error.Context));
+        }
+    }
 }
 
 QTEST_GUILESS_MAIN(TestProcesses)

@@ -6,9 +6,8 @@
 #include <cstring>
 #include <limits>
 
-// A file in memory on a disk with room for `room` bytes: a write that doesn't fit stores what fits
-// and comes back short with ENOSPC, as a full disk does. A bad sector can be set too: reads stop
-// short of it, and a read that starts on it fails with EIO.
+// A file in memory on a disk with room for `room` bytes: a write that doesn't fit stores what fits and
+// fails with ENOSPC. Reads stop short of a bad sector, and one that starts on it fails with EIO.
 class FailingDevice : public FileDevice
 {
 public:

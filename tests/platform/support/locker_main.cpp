@@ -1,5 +1,4 @@
-// Stands in for a collector: holds an exclusive flock on the file named by its argument, says
-// "locked" once it has it, and lets go when its stdin closes.
+// A collector's stand-in: says "locked" once it holds an exclusive flock on its argument, until stdin closes.
 #include <cstdio>
 #include <fcntl.h>
 #include <sys/file.h>

@@ -5,9 +5,8 @@
 #include <QStringList>
 #include <QTest>
 
-// A shell script standing in for a started program: it writes its process id, session id and
-// stdin to `<script>.proc`, then its arguments, one a line, to `<script>.args`, renamed into place
-// so that a test can wait for it.
+// A stand-in for a started program: writes its process id, session id and stdin to `<script>.proc`,
+// then its arguments, one a line, to `<script>.args`, renamed into place so that a test can wait for it.
 inline bool writeRecordingScript(const QString& path)
 {
     QFile script(path);
