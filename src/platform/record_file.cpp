@@ -46,8 +46,7 @@ RecordFile::~RecordFile() = default;
 QByteArray RecordFile::read(qint64 number)
 {
     device("Reading");
-    const qint64 maxNumber = std::numeric_limits<qint64>::max() / m_recordLength;
-    const qint64 start = number >= 1 && number <= maxNumber ? (number - 1) * m_recordLength : -1;
+    const qint64 start = recordStart(number);
     const qint64 aheadEnd = m_aheadStart + m_ahead.size();
     const bool held = start >= m_aheadStart && !m_ahead.isEmpty()
         && (start + m_recordLength <= aheadEnd || (m_aheadToEnd && start <= aheadEnd));
@@ -123,14 +122,20 @@ FileDevice& RecordFile::device(const char* what) const
     return *m_device;
 }
 
-void RecordFile::seekRecord(qint64 number, const char* what)
+qint64 RecordFile::recordStart(qint64 number) const
 {
     const qint64 maxNumber = std::numeric_limits<qint64>::max() / m_recordLength;
-    if (number < 1 || number > maxNumber)
+    return number >= 1 && number <= maxNumber ? (number - 1) * m_recordLength : -1;
+}
+
+void RecordFile::seekRecord(qint64 number, const char* what)
+{
+    const qint64 start = recordStart(number);
+    if (start < 0)
         throw RuntimeError(RuntimeError::BadRecordNumber,
             QStringLiteral("%1 record %2 of %3").arg(QLatin1String(what)).arg(number).arg(m_name));
     FileDevice& file = *m_device;
-    if (!file.seek((number - 1) * m_recordLength))
+    if (!file.seek(start))
         throwFileError(file.lastError() != 0 ? file.lastError() : EINVAL, m_name, context(what));
 }
 

@@ -42,6 +42,8 @@ public:
 
 private:
     FileDevice& device(const char* what) const;
+    // The byte where record `number` starts; -1 for a number no record can have.
+    qint64 recordStart(qint64 number) const;
     void seekRecord(qint64 number, const char* what);
     void readAhead(qint64 start);
     QString context(const char* what) const;

@@ -116,7 +116,7 @@ QByteArray toLatin1Bytes(const QString& text)
     return text.toLatin1();
 }
 
-QString fromLatin1Bytes(QByteArrayView bytes)
+QString fromLatin1Bytes(const QByteArray& bytes)
 {
     return QString::fromLatin1(bytes);
 }

@@ -34,7 +34,7 @@ QString fixedField(const QString& text, qsizetype width);
 // Every byte 0-255 maps to the character of the same code and back. A character beyond Latin-1
 // cannot be written and becomes "?"; test with isLatin1 first where that matters.
 QByteArray toLatin1Bytes(const QString& text);
-QString fromLatin1Bytes(QByteArrayView bytes);
+QString fromLatin1Bytes(const QByteArray& bytes);
 bool isLatin1(const QString& text);
 
 } // namespace Text

@@ -46,12 +46,9 @@ QByteArray ServerRecordBuffer::toBytes() const
 ServerRecordBuffer ServerRecordBuffer::fromBytes(const QByteArray& bytes)
 {
     ServerRecordBuffer record;
-    // views, not copies: a load converts every field of every record
-    const QByteArrayView view(bytes);
     qsizetype offset = 0;
     for (const Field& field : Fields) {
-        const qsizetype start = qMin(offset, view.size());
-        record.*field.member = Text::fromLatin1Bytes(view.sliced(start, qMin(field.width, view.size() - start)));
+        record.*field.member = Text::fromLatin1Bytes(bytes.mid(offset, field.width));
         offset += field.width;
     }
     return record;

@@ -19,9 +19,8 @@ DriveListBox::DriveListBox(QWidget* parent, const QString& name)
 // made hidden at every start: the list fills when it is first shown or asked.
 void DriveListBox::fillRoots()
 {
-    if (m_filled)
+    if (count() > 0)
         return;
-    m_filled = true;
     QStringList roots { QStringLiteral("/") }; // a chroot's root need not be a mount of its own
     for (const QStorageInfo& volume : QStorageInfo::mountedVolumes()) {
         if (volume.isValid() && volume.isReady())

@@ -27,8 +27,6 @@ protected:
 
 private:
     void fillRoots();
-
-    bool m_filled = false;
 };
 
 // The folders from the root down to Path, and Path's subfolders.
