@@ -139,6 +139,22 @@ private slots:
         QCOMPARE(MDIMainForm->staMainStatusBar->currentMessage(), QStringLiteral("KQM7051I Status: Ready"));
     }
 
+    // The last character, and the one before the next switch, never count.
+    void validateParms()
+    {
+        const struct {
+            int start;
+            int next;
+            const char* text;
+            bool alone;
+        } cases[] = { { 1, 0, "-D", true }, { 1, 0, "-Dx", true }, { 1, 0, "-Dxyz", false },
+            { 1, 0, "-D   ", true }, { 1, 6, "-D  x-E", true }, { 1, 8, "-D xyz -E", false } };
+        for (const auto& c : cases) {
+            const bool alone = MDIMainForm->validate_parms(qint16(c.start), qint16(c.next), QLatin1String(c.text));
+            QVERIFY2(alone == c.alone, c.text);
+        }
+    }
+
     // Exit ends the console at once: no question, nothing saved.
     void exitEndsAtOnce()
     {
